@@ -1,0 +1,156 @@
+#include "framework/UserControl.h"
+
+#include "framework/Control.h"
+#include "framework/EmbeddedControl.h"
+
+#include <cmath>
+
+namespace zilvo {
+
+namespace {
+
+constexpr std::array members = {
+    property<&UserControl::get_BackColor, &UserControl::put_BackColor>(1, u"BackColor", u"newBackColor"),
+    property<&UserControl::get_ForeColor, &UserControl::put_ForeColor>(2, u"ForeColor", u"newForeColor"),
+    property<&UserControl::get_Width, &UserControl::put_Width>(3, u"Width", u"newWidth"),
+    property<&UserControl::get_Height, &UserControl::put_Height>(4, u"Height", u"newHeight"),
+    property<&UserControl::get_ScaleWidth>(5, u"ScaleWidth"),
+    property<&UserControl::get_ScaleHeight>(6, u"ScaleHeight"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+void checkSize(const char* member, Single twips) {
+    if (!(twips >= 0) || !std::isfinite(twips))
+        throw Failure(Status::InvalidPropertyValue,
+                      std::string("UserControl.") + member + " cannot be " + platform::describe(Variant(twips)));
+}
+
+} // namespace
+
+/// Answers before a site is given and after the control was closed.
+class UserControl::NullSite final : public ControlSite {
+public:
+    Ambient& ambient() override { return ambient_; }
+    Extender& extender() override { return extender_; }
+    void PropertyChanged(StringView /*name*/) override {}
+    void SizeChanged(Single /*width*/, Single /*height*/) override {}
+    void Beep() override {}
+
+private:
+    class NullExtender final : public Extender {};
+
+    StandardAmbient ambient_;
+    NullExtender extender_;
+};
+
+UserControl::UserControl(Control& owner, const Design& design) noexcept
+    : owner_(owner), fontDesign_(design.Font), width_(design.Width), height_(design.Height),
+      backColor_(design.BackColor), foreColor_(design.ForeColor), scaleMode_(design.ScaleMode) {}
+
+UserControl::~UserControl() = default;
+
+ControlSite& UserControl::site() {
+    if (site_) return *site_;
+    if (!nullSite_) nullSite_ = std::make_unique<NullSite>();
+    return *nullSite_;
+}
+
+void UserControl::put_BackColor(Colour newBackColor) {
+    if (backColor_ == newBackColor) return;
+    backColor_ = newBackColor;
+    viewChanged();
+    tellEmbedded(u"BackColor");
+}
+
+void UserControl::put_ForeColor(Colour newForeColor) {
+    if (foreColor_ == newForeColor) return;
+    foreColor_ = newForeColor;
+    viewChanged();
+    tellEmbedded(u"ForeColor");
+}
+
+const FontRef& UserControl::get_Font() {
+    if (!font_) font_ = StdFont::make(fontDesign_);
+    return font_;
+}
+
+void UserControl::put_Width(Single newWidth) {
+    if (newWidth != width_) setSize(newWidth, height_);
+}
+
+void UserControl::put_Height(Single newHeight) {
+    if (newHeight != height_) setSize(width_, newHeight);
+}
+
+void UserControl::setSize(Single width, Single height) {
+    checkSize("Width", width);
+    checkSize("Height", height);
+    if (width != width_ || height != height_) take(width, height);
+    owner_.Resize();
+}
+
+void UserControl::take(Single width, Single height) {
+    width_ = width;
+    height_ = height;
+    viewChanged();
+    if (site_) site_->SizeChanged(width, height);
+}
+
+Ambient& UserControl::get_Ambient() {
+    return site().ambient();
+}
+
+Extender& UserControl::get_Extender() {
+    return site().extender();
+}
+
+void UserControl::PopupMenu(Menu& root) {
+    if (embeddingWidget())
+        site_->showPopup(root);
+    else
+        owner_.router_.showPopup(root);
+    viewChanged();
+}
+
+void UserControl::PropertyChanged(StringView name) {
+    if (site_) site_->PropertyChanged(name);
+}
+
+void UserControl::Beep() {
+    if (site_) site_->Beep();
+}
+
+bool UserControl::acceptsInput() const noexcept {
+    if (!site_) return false;
+    if (const Widget* widget = site_->embeddingWidget()) return widget->acceptsInput();
+    return site_->extender().get_Visible();
+}
+
+void UserControl::viewChanged() noexcept {
+    if (site_) site_->ViewChanged();
+}
+
+const Widget* UserControl::embeddingWidget() const noexcept {
+    return site_ ? site_->embeddingWidget() : nullptr;
+}
+
+void UserControl::surfaceMouseDown(Integer button, Integer shift, Point at) {
+    const Single unit = twipsPerUnit(scaleMode_);
+    owner_.MouseDown(button, shift, at.x / unit, at.y / unit);
+}
+
+bool UserControl::surfaceKeyPress(Integer& keyAscii) {
+    return owner_.KeyPress(keyAscii);
+}
+
+void UserControl::tellEmbedded(StringView ambientName) {
+    for (Widget& widget : *this)
+        if (auto* embedded = dynamic_cast<EmbeddedControl*>(&widget)) embedded->ambientChanged(ambientName);
+}
+
+const ClassDescription& UserControl::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"UserControl", .members = members};
+    return description;
+}
+
+} // namespace zilvo

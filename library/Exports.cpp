@@ -1,0 +1,19 @@
+#include "library/ZilvoButtons.h"
+
+/// The component's entry points, each of which hands the request to the platform together with the class table.
+
+namespace {
+
+constexpr std::uint32_t code(zilvo::Status status) noexcept {
+    return static_cast<std::uint32_t>(status);
+}
+
+} // namespace
+
+extern "C" std::uint32_t DllGetClassObject(const zilvo::Guid* classId, const zilvo::Guid* interfaceId, void** object) {
+    return code(zilvo::getClassObject(zilvo::libraryModule(), *classId, *interfaceId, object));
+}
+
+extern "C" std::uint32_t DllCanUnloadNow() {
+    return code(zilvo::canUnloadNow(zilvo::libraryModule()));
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/component/Object.h"
+
+namespace zilvo::platform {
+
+/// Makes instances of one class. Holding a factory keeps the component loaded.
+class ClassFactory final {
+public:
+    ClassFactory(ComponentModule& module, const ClassEntry& entry) noexcept : lock_(module), entry_(entry) {}
+    ClassFactory(const ClassFactory&) = delete;
+    ClassFactory& operator=(const ClassFactory&) = delete;
+    ~ClassFactory() = default;
+
+    void AddRef() noexcept { ++references_; }
+    void Release() noexcept;
+
+    /// A fresh instance: its children exist with their design values and Initialize has run.
+    Status CreateInstance(Ref<Object>& instance, ErrorInfo* error = nullptr) noexcept;
+
+private:
+    ModuleLock lock_;
+    const ClassEntry& entry_;
+    unsigned references_ = 0;
+};
+
+/// The interfaces that DllGetClassObject gives. The information, a const ComponentModule that belongs to the
+/// component, tells what it publishes and what of it lives; it is asked for with InformationClass.
+inline constexpr Guid ClassFactoryInterface = "{00000001-0000-0000-C000-000000000046}"_guid;
+inline constexpr Guid InformationInterface = "{5D1F6C0A-64C2-4B0B-9B3E-5F3E0C6F9A11}"_guid;
+inline constexpr Guid InformationClass = "{5D1F6C0B-64C2-4B0B-9B3E-5F3E0C6F9A11}"_guid;
+
+/// Serves DllGetClassObject from a component's class table. `*object` becomes a ClassFactory with one reference for
+/// the caller, or the information; null on failure. Gives ClassNotAvailable
+/// or NoInterface.
+Status getClassObject(ComponentModule& module, const Guid& classId, const Guid& interfaceId, void** object) noexcept;
+
+/// Serves DllCanUnloadNow: Ok when nothing of the component is alive, else False.
+Status canUnloadNow(const ComponentModule& module) noexcept;
+
+/// What the exported entry points look like.
+using GetClassObjectEntry = std::uint32_t(const Guid* classId, const Guid* interfaceId, void** object);
+using CanUnloadNowEntry = std::uint32_t();
+
+} // namespace zilvo::platform

@@ -1,0 +1,115 @@
+#include "platform/component/ComponentRuntime.h"
+
+#include <array>
+#include <cstring>
+#include <dlfcn.h>
+#include <elf.h>
+#include <fstream>
+
+namespace zilvo::platform {
+
+namespace {
+
+[[noreturn]] void refuse(const std::filesystem::path& file, const std::string& why) {
+    throw Failure(Status::BadComponent, file.string() + " is not a component: " + why);
+}
+
+/// The loader maps what a file's headers promise and dies when the file ends before that, so they are checked first.
+void checkIsWhole(const std::filesystem::path& file) {
+    std::error_code error;
+    if (!std::filesystem::exists(file, error))
+        throw Failure(Status::FileNotFound, "there is no component file " + file.string());
+    if (!std::filesystem::is_regular_file(file, error)) refuse(file, "it is no file");
+    const std::uint64_t size = std::filesystem::file_size(file, error);
+    std::ifstream in(file, std::ios::binary);
+    if (error || !in) refuse(file, "it cannot be read");
+
+    const auto read = [&](std::uint64_t at, auto& value) {
+        std::array<char, sizeof(value)> bytes{};
+        in.seekg(static_cast<std::streamoff>(at));
+        in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        if (!in) refuse(file, "it is cut short");
+        std::memcpy(&value, bytes.data(), bytes.size());
+    };
+    const auto needs = [&](std::uint64_t from, std::uint64_t length) {
+        if (from > size || length > size - from) refuse(file, "it is cut short");
+    };
+    Elf64_Ehdr header{};
+    read(0, header);
+    if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0) refuse(file, "it is no loadable module");
+    if (header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_type != ET_DYN ||
+        header.e_phentsize != sizeof(Elf64_Phdr))
+        refuse(file, "it is a module of another kind");
+    needs(header.e_shoff, std::uint64_t{header.e_shnum} * header.e_shentsize);
+    for (unsigned i = 0; i < header.e_phnum; ++i) {
+        Elf64_Phdr segment{};
+        read(header.e_phoff + i * sizeof(Elf64_Phdr), segment);
+        if (segment.p_type != PT_NULL) needs(segment.p_offset, segment.p_filesz);
+    }
+}
+
+template <class Entry>
+Entry* entryPoint(void* library, const char* name) noexcept {
+    return reinterpret_cast<Entry*>(dlsym(library, name)); // what dlsym gives has no type
+}
+
+} // namespace
+
+LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(std::filesystem::absolute(file)) {
+    checkIsWhole(file_);
+    library_ = dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!library_) refuse(file_, dlerror());
+    getClassObject_ = entryPoint<GetClassObjectEntry>(library_, "DllGetClassObject");
+    canUnloadNow_ = entryPoint<CanUnloadNowEntry>(library_, "DllCanUnloadNow");
+    void* module = nullptr;
+    if (getClassObject_ && canUnloadNow_) getClassObject_(&InformationClass, &InformationInterface, &module);
+    if (!module) {
+        close();
+        refuse(file_, "it lacks the entry points DllGetClassObject and DllCanUnloadNow or the information behind them");
+    }
+    module_ = static_cast<const ComponentModule*>(module);
+}
+
+LoadedComponent::~LoadedComponent() {
+    if (library_ && canUnloadNow_() == static_cast<std::uint32_t>(Status::Ok)) close();
+}
+
+void LoadedComponent::close() noexcept {
+    dlclose(std::exchange(library_, nullptr));
+    module_ = nullptr;
+}
+
+const ComponentModule& LoadedComponent::module() const {
+    if (!module_) throw Failure(Status::UnexpectedCall, file_.string() + " has been unloaded");
+    return *module_;
+}
+
+Ref<ClassFactory> LoadedComponent::classFactory(const Guid& classId) const {
+    module();
+    void* object = nullptr;
+    const auto status = Status{getClassObject_(&classId, &ClassFactoryInterface, &object)};
+    if (!succeeded(status)) throw Failure(status, file_.string() + " has no class " + classId.text());
+    Ref<ClassFactory> factory(*static_cast<ClassFactory*>(object));
+    factory->Release(); // the reference that the component gave; `factory` holds its own
+    return factory;
+}
+
+Ref<Object> LoadedComponent::create(StringView className) const {
+    const ClassEntry* entry = description().find(className);
+    if (!entry)
+        throw Failure(Status::ClassNotAvailable, file_.string() + " has no class " + toUtf8(className));
+    Ref<Object> instance;
+    ErrorInfo error;
+    throwUnlessOk(classFactory(entry->identity.classId)->CreateInstance(instance, &error), error);
+    return instance;
+}
+
+void LoadedComponent::unload() {
+    module();
+    if (canUnloadNow_() != static_cast<std::uint32_t>(Status::Ok))
+        throw Failure(Status::InUse, file_.string() + " cannot be unloaded: " + std::to_string(liveObjects()) +
+                                         " of its objects are alive, or a class factory or event connection is");
+    close();
+}
+
+} // namespace zilvo::platform

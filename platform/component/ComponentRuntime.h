@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/component/ClassFactory.h"
+
+#include <filesystem>
+
+namespace zilvo::platform {
+
+/// A component file that is loaded into the process. All calls throw Failures.
+class LoadedComponent {
+public:
+    /// Fails with FileNotFound, or with BadComponent for a file that is cut short, no component of this machine, or
+    /// needs what is not there.
+    explicit LoadedComponent(const std::filesystem::path& file);
+    LoadedComponent(const LoadedComponent&) = delete;
+    LoadedComponent& operator=(const LoadedComponent&) = delete;
+    /// Unloads the component, or leaves it in the process when something of it is still alive.
+    ~LoadedComponent();
+
+    const std::filesystem::path& file() const noexcept { return file_; }
+    /// Both fail with UnexpectedCall after unload().
+    const ComponentDescription& description() const { return module().description(); }
+    std::size_t liveObjects() const { return module().liveObjects(); }
+
+    /// Fails with ClassNotAvailable.
+    Ref<ClassFactory> classFactory(const Guid& classId) const;
+    /// Creates an instance by class name, ProgID or class id.
+    Ref<Object> create(StringView className) const;
+
+    /// Fails with InUse, and leaves the component loaded, while any object, class factory or event connection of it
+    /// is alive.
+    void unload();
+    bool isLoaded() const noexcept { return library_ != nullptr; }
+
+private:
+    const ComponentModule& module() const;
+    void close() noexcept;
+
+    std::filesystem::path file_;
+    void* library_ = nullptr;
+    const ComponentModule* module_ = nullptr;
+    GetClassObjectEntry* getClassObject_ = nullptr;
+    CanUnloadNowEntry* canUnloadNow_ = nullptr;
+};
+
+} // namespace zilvo::platform

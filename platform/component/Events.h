@@ -1,0 +1,82 @@
+#pragma once
+
+#include "platform/component/Module.h"
+#include "platform/values/Members.h"
+
+namespace zilvo::platform {
+
+/// A late-bound host's handler of an event: gets the event's number and references to the very variables that a
+/// typed handler would see. May throw a Failure, which reaches the call that led to the event.
+class EventSink {
+public:
+    virtual void Event(Long number, std::span<Variant> arguments) = 0;
+
+protected:
+    ~EventSink() = default;
+};
+
+/// One handler attached to one event, shared by the event and whoever attached it.
+class EventSlot {
+public:
+    explicit EventSlot(ComponentModule& module) noexcept : lock_(module) {}
+    EventSlot(const EventSlot&) = delete;
+    EventSlot& operator=(const EventSlot&) = delete;
+
+    void AddRef() noexcept { ++references_; }
+    void Release() noexcept;
+
+    bool isConnected() const noexcept { return connected_; }
+    /// No raise that starts or goes on after this reaches the handler. What the handler holds is let go of at once,
+    /// or, when it is running, at its end.
+    void disconnect() noexcept;
+
+protected:
+    virtual ~EventSlot() = default;
+    virtual void forgetHandler() noexcept = 0;
+
+    /// Marks the handler as running for the length of a scope.
+    class Running {
+    public:
+        explicit Running(EventSlot& slot) noexcept : slot_(slot) { ++slot_.running_; }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+        ~Running() {
+            if (--slot_.running_ == 0 && !slot_.connected_) slot_.forgetHandler();
+        }
+
+    private:
+        EventSlot& slot_;
+    };
+
+private:
+    friend struct std::default_delete<EventSlot>;
+
+    ModuleLock lock_;
+    unsigned references_ = 0;
+    unsigned running_ = 0;
+    bool connected_ = true;
+};
+
+/// A handler's connection to an event; ends with it. May outlive the control, never the component.
+class [[nodiscard]] Connection {
+public:
+    Connection() = default;
+    explicit Connection(Ref<EventSlot> slot) noexcept : slot_(std::move(slot)) {}
+    Connection(Connection&&) = default;
+    Connection& operator=(Connection&& other) noexcept {
+        disconnect();
+        slot_ = std::move(other.slot_);
+        return *this;
+    }
+    ~Connection() { disconnect(); }
+
+    void disconnect() noexcept {
+        if (const auto slot = std::exchange(slot_, nullptr)) slot->disconnect();
+    }
+    bool isConnected() const noexcept { return slot_ && slot_->isConnected(); }
+
+private:
+    Ref<EventSlot> slot_;
+};
+
+} // namespace zilvo::platform

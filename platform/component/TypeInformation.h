@@ -1,0 +1,85 @@
+#pragma once
+
+#include "platform/component/Events.h"
+
+#include <optional>
+
+namespace zilvo::platform {
+
+class Object;
+
+/// One event of a class, with the way to attach a late-bound sink to it.
+struct EventDescription {
+    static constexpr std::size_t MostArguments = 2;
+
+    Long number = 0;
+    StringView name;
+    /// All are passed by reference.
+    std::array<ArgumentDescription, MostArguments> argument{};
+    std::size_t argumentCount = 0;
+    Connection (*connect)(Object& object, EventSink& sink) = nullptr;
+
+    constexpr std::span<const ArgumentDescription> arguments() const noexcept {
+        return {argument.data(), argumentCount};
+    }
+};
+
+/// What a class publishes: its members and its events.
+struct ObjectDescription : ClassDescription {
+    constexpr ObjectDescription(StringView className, std::span<const MemberDescription> classMembers,
+                                std::span<const EventDescription> classEvents) noexcept
+        : ClassDescription{className, classMembers, nullptr}, events(classEvents) {}
+
+    std::span<const EventDescription> events;
+
+    const EventDescription* findEvent(StringView eventName) const noexcept {
+        for (const EventDescription& event : events)
+            if (sameName(event.name, eventName)) return &event;
+        return nullptr;
+    }
+};
+
+/// The identifiers under which a class is published.
+struct ClassIdentity {
+    StringView name;
+    Guid classId;
+    Guid interfaceId;
+    /// Null for a class without an event interface, a toolbox bitmap, a misc status: no control.
+    std::optional<Guid> eventInterfaceId;
+    std::optional<Integer> toolboxBitmap;
+    std::optional<std::uint32_t> miscStatus;
+
+    bool isControl() const noexcept { return eventInterfaceId.has_value(); }
+};
+
+struct LibraryIdentity {
+    StringView name;
+    Guid id;
+    Integer majorVersion;
+    Integer minorVersion;
+    Long locale;
+    StringView helpString;
+};
+
+/// A class of a component: who it is, what it publishes and how an instance is made.
+struct ClassEntry {
+    const ClassIdentity& identity;
+    const ObjectDescription& description;
+    Ref<Object> (*create)(ComponentModule& module);
+};
+
+/// All that a component publishes. A host reads it through the runtime without creating any object.
+struct ComponentDescription {
+    const LibraryIdentity& library;
+    std::span<const EnumerationDescription* const> enumerations;
+    std::span<const ClassEntry> classes;
+
+    const ClassEntry* find(const Guid& classId) const noexcept;
+    /// By class name, ProgID ("Library.Class") or class id, without case.
+    const ClassEntry* find(StringView name) const;
+};
+
+/// The library name, a full stop and the class name.
+String progIdOf(const LibraryIdentity& library, const ClassIdentity& identity);
+
+} // namespace zilvo::platform

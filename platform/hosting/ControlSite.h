@@ -1,0 +1,91 @@
+#pragma once
+
+#include "platform/values/StdFont.h"
+#include "platform/values/Units.h"
+
+namespace zilvo::platform {
+
+/// What a host gives a control. A host reports that one of these calls fails by throwing a Failure; it travels
+/// through the control to the call that the host made.
+
+/// The ambient properties: the colours, font and mode of the window that the control lies on.
+class Ambient {
+public:
+    virtual ~Ambient() = default;
+    virtual bool get_UserMode() = 0; ///< True while the application runs, False in a designer
+    virtual Colour get_BackColor() = 0;
+    virtual Colour get_ForeColor() = 0;
+    virtual FontRef get_Font() = 0;
+};
+
+/// The ambient properties of the classic scheme, until the host sets others.
+class StandardAmbient final : public Ambient, public Described {
+public:
+    bool get_UserMode() override { return userMode_; }
+    void put_UserMode(bool newUserMode) { userMode_ = newUserMode; }
+    Colour get_BackColor() override { return backColor_; }
+    void put_BackColor(Colour newBackColor) { backColor_ = newBackColor; }
+    Colour get_ForeColor() override { return foreColor_; }
+    void put_ForeColor(Colour newForeColor) { foreColor_ = newForeColor; }
+    FontRef get_Font() override;
+    void put_Font(FontRef newFont) { font_ = std::move(newFont); }
+
+    const ClassDescription& description() const noexcept override;
+
+private:
+    bool userMode_ = true;
+    Colour backColor_ = colours::ButtonFace;
+    Colour foreColor_ = colours::WindowText;
+    FontRef font_; ///< MS Sans Serif 8.25, made on first use
+};
+
+/// The object with which the host wraps the control: its place on the window and whether it is shown. Twips.
+class Extender : public Described {
+public:
+    virtual Single get_Left() const noexcept { return place_.left; }
+    virtual void put_Left(Single newLeft) { place_.left = newLeft; }
+    virtual Single get_Top() const noexcept { return place_.top; }
+    virtual void put_Top(Single newTop) { place_.top = newTop; }
+    virtual Single get_Width() const noexcept { return place_.width; }
+    virtual void put_Width(Single newWidth) { place_.width = newWidth; }
+    virtual Single get_Height() const noexcept { return place_.height; }
+    virtual void put_Height(Single newHeight) { place_.height = newHeight; }
+    virtual bool get_Visible() const noexcept { return visible_; }
+    virtual void put_Visible(bool newVisible) { visible_ = newVisible; }
+
+    const ClassDescription& description() const noexcept override;
+
+protected:
+    Extender() = default;
+    ~Extender() = default;
+
+    Rectangle place_;
+    bool visible_ = true;
+};
+
+class Menu;
+class Widget;
+
+/// The place that a host gives a control on one of its windows. It outlives the control or closes it first.
+class ControlSite {
+public:
+    virtual Ambient& ambient() = 0;
+    virtual Extender& extender() = 0;
+    /// The saved settings are out of date because of that property.
+    virtual void PropertyChanged(StringView name) = 0;
+    /// The control has another size, in twips, whether it or the host gave it; its Resize handler runs afterwards.
+    virtual void SizeChanged(Single width, Single height) = 0;
+    /// Something is to be painted again.
+    virtual void ViewChanged() noexcept {}
+    virtual void Beep() = 0;
+
+    /// For a control that another control embeds: the child widget that it is there, and where its pop-up menus go.
+    /// A host's own controls have neither.
+    virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
+    virtual void showPopup(Menu& /*root*/) {}
+
+protected:
+    ~ControlSite() = default;
+};
+
+} // namespace zilvo::platform

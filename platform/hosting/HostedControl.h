@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/hosting/ControlSite.h"
+#include "platform/hosting/Input.h"
+#include "platform/hosting/PropertyBag.h"
+#include "platform/widgets/Menu.h"
+#include "platform/widgets/Surface.h"
+
+namespace zilvo::platform {
+
+/// What a host drives. Nothing throws: each call gives a status and, in `error` (which may be null), the message of
+/// a failure. The order is:
+///
+///   created -> SetSite -> InitNew or Load, exactly one, once -> SetSize -> live -> Close
+///
+/// A call that is not legal in the state gives UnexpectedCall and changes nothing. A failing InitNew, Load or SetSize
+/// has still taken place: what its handler did before the failing step stays, and the next call of the order is
+/// legal. Properties, methods and events (Object) can be used in every state; before SetSite and after Close a null
+/// site answers: default ambient properties, no notification goes anywhere.
+///
+/// Every call holds the control alive until it returns, so that a handler may release the last reference.
+class HostedControl {
+public:
+    HostedControl(const HostedControl&) = delete;
+    HostedControl& operator=(const HostedControl&) = delete;
+
+    /// The site must stay until Close.
+    virtual Status SetSite(ControlSite& site, ErrorInfo* error = nullptr) noexcept = 0;
+    /// A new instance, without saved settings.
+    virtual Status InitNew(ErrorInfo* error = nullptr) noexcept = 0;
+    /// An instance with saved settings.
+    virtual Status Load(const PropertyBag& settings, ErrorInfo* error = nullptr) noexcept = 0;
+    /// Twips; first right after InitNew or Load, then whenever the host changes the size.
+    virtual Status SetSize(Single width, Single height, ErrorInfo* error = nullptr) noexcept = 0;
+    /// Legal after InitNew or Load, any number of times.
+    virtual Status Save(PropertyBag& settings, ErrorInfo* error = nullptr) noexcept = 0;
+    /// Live only. An ambient property of that name has changed.
+    virtual Status AmbientPropertyChanged(StringView name, ErrorInfo* error = nullptr) noexcept = 0;
+    /// Live only. `acted` (may be null) tells whether the input did something; for Act, whether the user could do it.
+    virtual Status Input(const InputEvent& event, bool* acted, ErrorInfo* error = nullptr) noexcept = 0;
+    /// Draws the control, twips from its upper left corner, and over it the pop-up that is open.
+    virtual Status Paint(Painter& painter, ErrorInfo* error = nullptr) noexcept = 0;
+    /// Leaves the site for good; legal in every state. The host calls it before the site goes away.
+    virtual void Close() noexcept = 0;
+
+    /// The control's own surface with its widgets, as long as the control lives.
+    virtual Surface& surface() noexcept = 0;
+    /// The members of that surface: size, colours, inner size.
+    virtual Described& surfaceMembers() noexcept = 0;
+    /// The widget that has the keyboard; null for none.
+    virtual Widget* focus() noexcept = 0;
+    /// The root of the menu that was last popped up; null for none.
+    virtual Menu* lastPopup() noexcept = 0;
+
+protected:
+    HostedControl() = default;
+    ~HostedControl() = default;
+};
+
+/// The tool tip for a point of the control, in twips; empty for none.
+String toolTipAt(HostedControl& control, Point at);
+
+} // namespace zilvo::platform

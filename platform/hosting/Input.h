@@ -1,0 +1,73 @@
+#pragma once
+
+#include "platform/values/Kinds.h"
+#include "platform/values/Units.h"
+
+#include <chrono>
+#include <optional>
+#include <variant>
+
+namespace zilvo::platform {
+
+class Widget;
+
+/// What a host hands a control of the user's doings. Positions are twips from the control's upper left corner.
+namespace input {
+
+inline constexpr Integer LeftButton = 1;
+inline constexpr Integer RightButton = 2;
+inline constexpr Integer MiddleButton = 4;
+
+inline constexpr Integer ShiftMask = 1;
+inline constexpr Integer CtrlMask = 2;
+inline constexpr Integer AltMask = 4;
+
+struct PointerDown {
+    Point at;
+    Integer button = LeftButton;
+    Integer shift = 0;
+};
+struct PointerMove {
+    Point at;
+};
+struct PointerUp {
+    Point at;
+    Integer button = LeftButton;
+};
+
+/// A typed character, by its code: 13 is Enter, 27 Escape.
+struct KeyTyped {
+    Integer keyAscii;
+};
+
+enum class Key : std::uint8_t { Character, Tab, Enter, Escape, Space, Up, Down, Left, Right };
+
+/// A key that goes down. Enter, Escape, Space and characters without Alt go on as typed characters.
+struct KeyDown {
+    Key key;
+    char16_t character = 0; ///< for Key::Character
+    Integer shift = 0;
+};
+
+/// Time that passed on the host's clock since the last input; what is held down repeats by it.
+struct TimePassed {
+    std::chrono::milliseconds elapsed;
+};
+
+/// A user's click on a widget or a spin of a spin button, for hosts that have no pointer: done with a press and a
+/// release where the widget can be reached, or not at all.
+enum class Action : std::uint8_t { Click, SpinUp, SpinDown };
+struct Act {
+    Widget& widget;
+    Action action = Action::Click;
+};
+
+} // namespace input
+
+using InputEvent = std::variant<input::PointerDown, input::PointerMove, input::PointerUp, input::KeyTyped,
+                                input::KeyDown, input::TimePassed, input::Act>;
+
+/// Reads "Tab", "Shift+Tab", "Left", "Alt+6", "Escape", "a"; nothing for anything else.
+std::optional<input::KeyDown> parseKey(StringView text);
+
+} // namespace zilvo::platform

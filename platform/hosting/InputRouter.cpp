@@ -1,0 +1,268 @@
+#include "platform/hosting/InputRouter.h"
+
+#include "platform/widgets/CommandButton.h"
+#include "platform/widgets/SpinButton.h"
+
+#include <algorithm>
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr Integer Enter = 13;
+constexpr Integer Escape = 27;
+constexpr Integer Space = 32;
+
+/// The widgets that can have the keyboard, embedded controls included, in Tab order.
+void collectTabOrder(const Surface& surface, std::vector<Widget*>& order) {
+    std::vector<Widget*> widgets;
+    for (Widget& widget : surface)
+        if (widget.isPlaced()) widgets.push_back(&widget);
+    std::stable_sort(widgets.begin(), widgets.end(), [](const Widget* one, const Widget* other) {
+        return one->get_TabIndex() < other->get_TabIndex();
+    });
+    for (Widget* widget : widgets) {
+        if (const Surface* inner = widget->embeddedSurface())
+            collectTabOrder(*inner, order);
+        else if (widget->acceptsInput())
+            order.push_back(widget);
+    }
+}
+
+std::vector<Widget*> tabOrderOf(const Surface& root) {
+    std::vector<Widget*> order;
+    collectTabOrder(root, order);
+    return order;
+}
+
+/// The widget's corner on the root surface.
+Point originOf(const Surface& root, const Widget& widget) {
+    Point origin;
+    for (const Widget* at = &widget; at;) {
+        origin.x += at->bounds().left;
+        origin.y += at->bounds().top;
+        const Widget* outer = at->parent();
+        at = outer || &at->surface() == &root ? outer : at->surface().embeddingWidget();
+    }
+    return origin;
+}
+
+/// The surfaces from the one that the widget lies on outwards to the root.
+std::vector<Surface*> surfacesFrom(Surface& root, const Widget* widget) {
+    std::vector<Surface*> surfaces;
+    Surface* at = widget ? &widget->surface() : &root;
+    while (at) {
+        surfaces.push_back(at);
+        const Widget* outer = at->embeddingWidget();
+        at = outer ? &outer->surface() : nullptr;
+    }
+    return surfaces;
+}
+
+} // namespace
+
+bool InputRouter::route(const InputEvent& event) {
+    if (!root_.acceptsInput()) return false;
+    return std::visit([this](const auto& given) { return on(given); }, event);
+}
+
+bool InputRouter::on(const input::PointerDown& event) {
+    pointer_ = event.at;
+    if (popup_.isOpen()) {
+        popup_.pointerDown(event.at);
+        return true;
+    }
+    const Hit hit = root_.hitTest(event.at);
+    if (!hit.surface || !hit.surface->acceptsInput()) return false;
+    if (!hit.widget) {
+        hit.surface->surfaceMouseDown(event.button, event.shift, hit.at);
+        return true;
+    }
+    if (!hit.widget->acceptsInput()) return false;
+    if (event.button == input::LeftButton) {
+        if (hit.widget->takesFocus()) setFocus(hit.widget);
+        if (captured_) captured_->setPressed(false);
+        captured_ = hit.widget;
+        captured_->setPressed(true);
+    }
+    hit.widget->pointerDown(event.button, event.shift, hit.at);
+    return true;
+}
+
+bool InputRouter::on(const input::PointerMove& event) {
+    pointer_ = event.at;
+    if (popup_.isOpen()) {
+        popup_.pointerMove(event.at);
+        return true;
+    }
+    if (captured_) captured_->setPressed(root_.hitTest(event.at).widget == captured_);
+    return captured_ != nullptr;
+}
+
+bool InputRouter::on(const input::PointerUp& event) {
+    pointer_ = event.at;
+    if (popup_.isOpen()) {
+        if (event.button == input::LeftButton) choose(popup_.pointerUp(event.at));
+        return true;
+    }
+    if (event.button != input::LeftButton || !captured_) return false;
+    Widget* released = std::exchange(captured_, nullptr);
+    released->setPressed(false);
+    released->pointerUp();
+    return root_.hitTest(event.at).widget == released && click(released);
+}
+
+bool InputRouter::on(const input::KeyTyped& event) {
+    if (popup_.isOpen()) {
+        if (event.keyAscii == Enter) return choose(popup_.key(input::Key::Enter)), true;
+        if (event.keyAscii == Escape) return popup_.key(input::Key::Escape), true;
+        return choose(popup_.accessKey(static_cast<char16_t>(event.keyAscii))), true;
+    }
+    Widget* focused = focus();
+    const auto surfaces = surfacesFrom(root_, focused);
+    Integer code = event.keyAscii;
+    for (auto outer = surfaces.rbegin(); outer != surfaces.rend(); ++outer)
+        if ((*outer)->surfaceKeyPress(code)) return true;
+
+    if (code == Space) return click(focused);
+    if (code == Enter && dynamic_cast<CommandButton*>(focused)) return click(focused);
+    if (code != Enter && code != Escape) return false;
+    for (const Surface* surface : surfaces)
+        if (Widget* button = code == Enter ? surface->defaultButton : surface->cancelButton) return click(button);
+    return false;
+}
+
+bool InputRouter::on(const input::KeyDown& event) {
+    using input::Key;
+    const bool alt = (event.shift & input::AltMask) != 0;
+    if (popup_.isOpen()) {
+        choose(event.key == Key::Character ? popup_.accessKey(event.character) : popup_.key(event.key));
+        return true;
+    }
+    switch (event.key) {
+    case Key::Tab: advanceFocus((event.shift & input::ShiftMask) == 0); return focus_ != nullptr;
+    case Key::Enter: return on(input::KeyTyped{Enter});
+    case Key::Escape: return on(input::KeyTyped{Escape});
+    case Key::Space: return on(input::KeyTyped{Space});
+    case Key::Character:
+        return alt ? accessKey(event.character) : on(input::KeyTyped{static_cast<Integer>(event.character)});
+    default: return arrow(event.key);
+    }
+}
+
+bool InputRouter::on(const input::TimePassed& event) {
+    if (!captured_ || !captured_->isPressed()) return false;
+    captured_->held(event.elapsed);
+    return true;
+}
+
+bool InputRouter::on(const input::Act& event) {
+    Widget& widget = event.widget;
+    if (auto* item = dynamic_cast<Menu*>(&widget)) {
+        if (event.action != input::Action::Click || !PopupMenu::canChoose(*item)) return false;
+        popup_.close();
+        return choose(item);
+    }
+    if (!widget.acceptsInput()) return false;
+    if (event.action != input::Action::Click) {
+        const auto* spin = dynamic_cast<SpinButton*>(&widget);
+        if (!spin) return false;
+        return press(widget, spin->pointFor(event.action == input::Action::SpinUp ? SpinButton::Spin::Up
+                                                                                  : SpinButton::Spin::Down));
+    }
+    if (!widget.isClickable()) return false;
+    // The middle first, then a grid: what covers the middle may leave a rim.
+    constexpr std::array<Single, 5> fractions = {0.5F, 0.02F, 0.25F, 0.75F, 0.98F};
+    for (const Single down : fractions)
+        for (const Single across : fractions)
+            if (press(widget, {widget.bounds().width * across, widget.bounds().height * down})) return true;
+    return false;
+}
+
+/// A press and a release at a point of the widget, when that is where the pointer would meet it.
+bool InputRouter::press(Widget& widget, Point at) {
+    const Point origin = originOf(root_, widget);
+    const Point point{origin.x + at.x, origin.y + at.y};
+    if (root_.hitTest(point).widget != &widget) return false;
+    popup_.close();
+    on(input::PointerDown{point});
+    on(input::PointerUp{point});
+    return true;
+}
+
+bool InputRouter::click(Widget* widget) {
+    if (!widget || !widget->isClickable() || !widget->acceptsInput()) return false;
+    widget->userClick();
+    return true;
+}
+
+bool InputRouter::choose(Menu* item) {
+    if (!item) return false;
+    item->userClick();
+    return true;
+}
+
+Widget* InputRouter::focus() {
+    if (focus_ && !focus_->acceptsInput()) advanceFocus(true);
+    return focus_;
+}
+
+void InputRouter::setFocus(Widget* widget) {
+    if (focus_ == widget) return;
+    if (focus_) focus_->setFocused(false);
+    focus_ = widget;
+    if (focus_) focus_->setFocused(true);
+}
+
+void InputRouter::advanceFocus(bool forward) {
+    auto order = tabOrderOf(root_);
+    if (!forward) std::reverse(order.begin(), order.end());
+    // After the focused one, then from the start again. One that can no longer take input is in no order, so the
+    // place to go on from is found by its tab index.
+    const auto after = std::find_if(order.begin(), order.end(), [&](const Widget* widget) {
+        if (!focus_ || widget == focus_) return widget == focus_;
+        if (focus_->acceptsInput() || &widget->surface() != &focus_->surface()) return false;
+        return forward ? widget->get_TabIndex() > focus_->get_TabIndex()
+                       : widget->get_TabIndex() < focus_->get_TabIndex();
+    });
+    std::rotate(order.begin(), after == order.end() ? order.begin() : after, order.end());
+    if (!order.empty() && order.front() == focus_) std::rotate(order.begin(), order.begin() + 1, order.end());
+    const auto stop = std::find_if(order.begin(), order.end(), [](const Widget* widget) { return widget->isTabStop(); });
+    setFocus(stop == order.end() ? nullptr : *stop);
+}
+
+bool InputRouter::accessKey(char16_t letter) {
+    const char16_t wanted = accessKeyOf(String{u'&', letter});
+    auto order = tabOrderOf(root_);
+    // Those behind the focused one come first, so that a shared letter goes round.
+    const auto focused = std::find(order.begin(), order.end(), focus());
+    if (focused != order.end()) std::rotate(order.begin(), focused + 1, order.end());
+    for (Widget* widget : order) {
+        if (!wanted || widget->accessKey() != wanted || !widget->isClickable()) continue;
+        setFocus(widget);
+        return click(widget);
+    }
+    return false;
+}
+
+bool InputRouter::arrow(input::Key key) {
+    using input::Key;
+    Widget* focused = focus();
+    if (!focused) return false;
+    const auto direction = key == Key::Up     ? Direction::Up
+                           : key == Key::Down ? Direction::Down
+                           : key == Key::Left ? Direction::Left
+                                              : Direction::Right;
+    if (focused->arrowKey(direction)) return true;
+    if (!focused->isInGroupWith(*focused)) return false;
+    auto group = tabOrderOf(root_);
+    std::erase_if(group, [&](const Widget* widget) { return !focused->isInGroupWith(*widget); });
+    if (key == Key::Up || key == Key::Left) std::reverse(group.begin(), group.end());
+    auto next = std::find(group.begin(), group.end(), focused);
+    next = next == group.end() || next + 1 == group.end() ? group.begin() : next + 1;
+    if (*next == focused) return false;
+    setFocus(*next);
+    return click(*next);
+}
+
+} // namespace zilvo::platform

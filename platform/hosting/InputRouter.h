@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/hosting/Input.h"
+#include "platform/hosting/PopupMenu.h"
+#include "platform/widgets/Surface.h"
+
+namespace zilvo::platform {
+
+/// Takes a user's input to the widget or handler that it is for: hit testing, capture, focus, Tab order, access
+/// keys, arrow keys in option groups, default and cancel buttons, pop-up menus. One router serves a control and
+/// whatever controls it embeds. Failures of handlers come through.
+class InputRouter {
+public:
+    explicit InputRouter(Surface& root) noexcept : root_(root) {}
+
+    /// True when the input did something or was kept from doing more; for Act, when the user could do it.
+    bool route(const InputEvent& event);
+
+    /// The widget that has the keyboard; null for none. One that can no longer take input hands it on.
+    Widget* focus();
+
+    void showPopup(Menu& root) { popup_.open(root, pointer_); }
+    const PopupMenu& popup() const noexcept { return popup_; }
+
+private:
+    bool on(const input::PointerDown& event);
+    bool on(const input::PointerMove& event);
+    bool on(const input::PointerUp& event);
+    bool on(const input::KeyTyped& event);
+    bool on(const input::KeyDown& event);
+    bool on(const input::TimePassed& event);
+    bool on(const input::Act& event);
+
+    void setFocus(Widget* widget);
+    void advanceFocus(bool forward);
+    bool accessKey(char16_t letter);
+    bool arrow(input::Key key);
+    bool click(Widget* widget);
+    bool choose(Menu* item);
+    bool press(Widget& widget, Point at);
+
+    Surface& root_;
+    PopupMenu popup_;
+    Point pointer_;
+    Widget* focus_ = nullptr;
+    Widget* captured_ = nullptr;
+};
+
+} // namespace zilvo::platform

@@ -1,0 +1,205 @@
+#include "platform/hosting/PopupMenu.h"
+
+#include "platform/painting/FontMetrics.h"
+#include "platform/painting/TextLayout.h"
+#include "platform/widgets/Look.h"
+#include "platform/widgets/Surface.h"
+
+#include <algorithm>
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr Single Pixel = TwipsPerPixel;
+constexpr Single Border = 3 * Pixel;
+constexpr Single ItemHeight = 19 * Pixel;
+constexpr Single SeparatorHeight = 9 * Pixel;
+constexpr Single CheckWidth = 20 * Pixel; ///< left of the text, for the check mark
+constexpr Single ArrowWidth = 20 * Pixel; ///< right of it, for the submenu's arrow
+constexpr FontLook MenuFont{u"MS Sans Serif", 8.25F, 400, false, false, false};
+
+Single heightOf(const Menu& item) noexcept {
+    return item.isSeparator() ? SeparatorHeight : ItemHeight;
+}
+
+bool canHighlight(const Menu& item) noexcept {
+    return item.get_Enabled() && !item.isSeparator();
+}
+
+} // namespace
+
+Menu* PopupMenu::highlighted() const noexcept {
+    return panels_.empty() ? nullptr : panels_.back().highlighted;
+}
+
+void PopupMenu::open(Menu& root, Point corner) {
+    lastRoot_ = &root;
+    pressed_ = false;
+    panels_.assign(1, panelFor(root, corner));
+}
+
+PopupMenu::Panel PopupMenu::panelFor(Menu& menu, Point corner) const {
+    Rectangle area{corner.x, corner.y, 0, 2 * Border};
+    for (const Menu* item : menu.items()) {
+        const Single text = textWidth(captionOf(item->get_Caption()).text, MenuFont);
+        area.width = std::max(area.width, text + CheckWidth + ArrowWidth + 2 * Border);
+        area.height += heightOf(*item);
+    }
+    return {&menu, area};
+}
+
+Rectangle PopupMenu::areaOf(const Panel& panel, const Menu& wanted) const {
+    const Rectangle inner = panel.area.inset(Border);
+    Rectangle area{inner.left, inner.top, inner.width, 0};
+    for (const Menu* item : panel.menu->items()) {
+        area.height = heightOf(*item);
+        if (item == &wanted) break;
+        area.top += area.height;
+    }
+    return area;
+}
+
+PopupMenu::Place PopupMenu::placeAt(Point at) const {
+    for (std::size_t i = panels_.size(); i-- > 0;) {
+        if (!panels_[i].area.contains(at)) continue;
+        for (Menu* item : panels_[i].menu->items())
+            if (areaOf(panels_[i], *item).contains(at)) return {i, item};
+        return {i, nullptr};
+    }
+    return {panels_.size(), nullptr};
+}
+
+void PopupMenu::highlight(std::size_t panel, Menu* item) {
+    panels_.resize(panel + 1, panels_.front());
+    panels_[panel].highlighted = item && canHighlight(*item) ? item : nullptr;
+}
+
+void PopupMenu::openSubmenu() {
+    Menu* item = highlighted();
+    if (!item || !item->opensSubmenu()) return;
+    const Rectangle area = areaOf(panels_.back(), *item);
+    panels_.push_back(panelFor(*item, {area.right(), area.top - Border}));
+}
+
+Menu* PopupMenu::choose() {
+    Menu* item = highlighted();
+    if (!item) return nullptr;
+    if (item->opensSubmenu()) {
+        openSubmenu();
+        return nullptr;
+    }
+    close();
+    return item;
+}
+
+void PopupMenu::pointerMove(Point at) {
+    const Place place = placeAt(at);
+    if (place.panel == panels_.size()) return;
+    const bool alreadyOpen = place.panel + 1 < panels_.size() && panels_[place.panel].highlighted == place.item;
+    if (alreadyOpen) return;
+    highlight(place.panel, place.item);
+    openSubmenu();
+}
+
+Menu* PopupMenu::pointerDown(Point at) {
+    pressed_ = placeAt(at).panel < panels_.size();
+    if (pressed_)
+        pointerMove(at);
+    else
+        close();
+    return nullptr;
+}
+
+Menu* PopupMenu::pointerUp(Point at) {
+    if (!std::exchange(pressed_, false)) return nullptr;
+    const Place place = placeAt(at);
+    if (place.panel + 1 != panels_.size() || !place.item || place.item != highlighted()) return nullptr;
+    return choose();
+}
+
+void PopupMenu::step(int by) {
+    const auto items = panels_.back().menu->items();
+    const auto count = static_cast<int>(items.size());
+    const auto at = std::find(items.begin(), items.end(), panels_.back().highlighted);
+    int position = at != items.end() ? static_cast<int>(at - items.begin()) : by > 0 ? -1 : count;
+    for (int tries = 0; tries < count; ++tries) {
+        position = (position + by + count) % count;
+        if (!canHighlight(*items[static_cast<std::size_t>(position)])) continue;
+        highlight(panels_.size() - 1, items[static_cast<std::size_t>(position)]);
+        return;
+    }
+}
+
+Menu* PopupMenu::key(input::Key key) {
+    using input::Key;
+    switch (key) {
+    case Key::Up: step(-1); break;
+    case Key::Down: step(1); break;
+    case Key::Right: {
+        const auto depth = panels_.size();
+        openSubmenu();
+        if (panels_.size() > depth) step(1);
+        break;
+    }
+    case Key::Left:
+        if (panels_.size() > 1) panels_.pop_back();
+        break;
+    case Key::Escape: panels_.pop_back(); break;
+    case Key::Enter: {
+        const auto depth = panels_.size();
+        Menu* chosen = choose();
+        if (panels_.size() > depth) step(1);
+        return chosen;
+    }
+    default: break;
+    }
+    return nullptr;
+}
+
+Menu* PopupMenu::accessKey(char16_t letter) {
+    const char16_t wanted = accessKeyOf(String{u'&', letter});
+    for (Menu* item : panels_.back().menu->items()) {
+        if (item->accessKey() != wanted || !canHighlight(*item)) continue;
+        highlight(panels_.size() - 1, item);
+        return key(input::Key::Enter);
+    }
+    return nullptr;
+}
+
+bool PopupMenu::canChoose(const Menu& item) noexcept {
+    if (!item.isClickable()) return false;
+    for (const Menu* at = &item; at; at = at->parent())
+        if (!at->get_Enabled() || (at->parent() && !at->get_Visible())) return false;
+    return item.surface().acceptsInput();
+}
+
+void PopupMenu::paint(Painter& painter) const {
+    for (const Panel& panel : panels_) {
+        look::buttonFace(painter, panel.area, look::Face, false, false);
+        for (const Menu* item : panel.menu->items()) {
+            const Rectangle area = areaOf(panel, *item);
+            if (item->isSeparator()) {
+                const Single middle = area.top + area.height / 2 - Pixel;
+                look::sunken(painter, {area.left, middle, area.width, 2 * Pixel});
+                continue;
+            }
+            const bool marked = item == panel.highlighted;
+            if (marked) painter.rectangle(area, {.fill = rgbOf(Colour{0x8000000D}), .stroke = std::nullopt});
+            const Rgb colour = rgbOf(Colour{marked ? 0x8000000E : 0x80000007});
+            if (item->get_Checked()) look::tick(painter, {area.left + 3 * Pixel, area.top + 3 * Pixel}, colour);
+            const auto caption = item->get_Caption();
+            paintCaption(painter, {area.left + CheckWidth, area.top, area.width - CheckWidth, area.height},
+                         {.designed = caption, .font = MenuFont, .colour = colour, .across = Alignment::Near,
+                          .greyed = !item->get_Enabled(), .wraps = false});
+            if (!item->opensSubmenu()) continue;
+            const Single x = area.right() - 10 * Pixel;
+            const Single y = area.top + area.height / 2;
+            const std::array<Point, 3> corners = {Point{x, y - 4 * Pixel}, Point{x, y + 4 * Pixel},
+                                                  Point{x + 4 * Pixel, y}};
+            painter.polygon(corners, {.fill = colour, .stroke = std::nullopt});
+        }
+    }
+}
+
+} // namespace zilvo::platform

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "platform/painting/Bitmap.h"
+#include "platform/values/StdFont.h"
+#include "platform/values/Units.h"
+
+#include <optional>
+#include <span>
+
+namespace zilvo::platform {
+
+/// A colour as it is drawn; system colours have been looked up.
+struct Rgb {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+
+    friend constexpr bool operator==(Rgb, Rgb) noexcept = default;
+};
+
+/// Looks a colour up in the classic scheme; an unknown system colour is black.
+Rgb rgbOf(Colour colour) noexcept;
+
+/// How an outline and its inside are drawn. Without a fill the inside is left as it is; without a stroke
+/// there is no outline. A stroke is at least one pixel wide. That of a rectangle or an ellipse lies inside
+/// its area, so that a frame is exactly as large as its area.
+struct ShapeStyle {
+    std::optional<Rgb> fill;
+    std::optional<Rgb> stroke;
+    Single strokeWidth = TwipsPerPixel;
+    bool dotted = false;
+};
+
+/// One line of text. `origin` is the left end of the baseline; `width` is what measure() gave for it, and the
+/// painter keeps to it whatever font it ends up with.
+struct TextRun {
+    StringView text;
+    Point origin;
+    Single width = 0;
+    FontLook font;
+    Rgb colour;
+    /// The letter to underline as an access key; npos for none.
+    std::size_t underlined = String::npos;
+};
+
+/// The only way to draw. Positions and sizes are twips from the top left corner of the area last entered. A
+/// painter throws a Failure when its target fails.
+class Painter {
+public:
+    Painter() = default;
+    Painter(const Painter&) = delete;
+    Painter& operator=(const Painter&) = delete;
+    virtual ~Painter() = default;
+
+    /// An area without width or height is not drawn.
+    virtual void rectangle(const Rectangle& area, const ShapeStyle& style, Single cornerRadius = 0) = 0;
+    virtual void ellipse(const Rectangle& area, const ShapeStyle& style) = 0;
+    /// Without a stroke exactly what lies between the corners; a stroke runs as line() would from each corner
+    /// to the next, to the right of and below them, and the fill reaches up to it.
+    virtual void polygon(std::span<const Point> corners, const ShapeStyle& style) = 0;
+    /// Covers the pixels to the right of and below its points, without the one at its far end: from (0, 0) to
+    /// (150, 0) is the first ten pixels of the top row; the last row of an area is at bottom() - width.
+    virtual void line(Point from, Point to, Rgb colour, Single width = TwipsPerPixel) = 0;
+    virtual void text(const TextRun& run) = 0;
+    /// Draws the bitmap stretched over `area`.
+    virtual void bitmap(const Bitmap& picture, const Rectangle& area) = 0;
+
+    /// Until the matching leave(), positions count from the area's corner and nothing is drawn outside it.
+    virtual void enter(const Rectangle& area) = 0;
+    virtual void leave() = 0;
+
+    /// The width of one line in twips.
+    virtual Single measure(StringView text, const FontLook& font) const = 0;
+};
+
+/// Enters an area for the length of a scope.
+class PaintedArea {
+public:
+    PaintedArea(Painter& painter, const Rectangle& area) : painter_(painter) { painter_.enter(area); }
+    ~PaintedArea() { painter_.leave(); }
+    PaintedArea(const PaintedArea&) = delete;
+    PaintedArea& operator=(const PaintedArea&) = delete;
+
+private:
+    Painter& painter_;
+};
+
+} // namespace zilvo::platform

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/painting/FontMetrics.h"
+#include "platform/painting/Painter.h"
+
+namespace zilvo::platform {
+
+enum class Alignment : std::uint8_t { Near, Centre, Far };
+
+/// A caption to be laid out: `designed` may hold an access-key mark ("&OK").
+struct CaptionLook {
+    StringView designed;
+    FontLook font;
+    Rgb colour;
+    Alignment across = Alignment::Centre;
+    Alignment down = Alignment::Centre;
+    /// Greyed text is embossed: white one pixel to the right and below, grey on top; `colour` is not used.
+    bool greyed = false;
+    /// Broken at blanks into lines no wider than the area; a word that is wider stays whole. A line feed or
+    /// carriage return breaks a line in any case.
+    bool wraps = true;
+};
+
+/// Draws the caption in the area and gives the area that its lines take up, which may be larger.
+Rectangle paintCaption(Painter& painter, const Rectangle& area, const CaptionLook& look);
+
+/// The area that paintCaption would take up.
+Rectangle measureCaption(const Painter& painter, const Rectangle& area, const CaptionLook& look);
+
+} // namespace zilvo::platform

@@ -1,0 +1,61 @@
+#include "platform/values/Members.h"
+
+namespace zilvo::platform {
+
+const char* nameOf(Access access) noexcept {
+    switch (access) {
+    case Access::Get: return "get";
+    case Access::Put: return "put";
+    case Access::PutReference: return "putref";
+    case Access::Method: return "method";
+    }
+    return "";
+}
+
+namespace {
+
+[[noreturn]] void refuse(const MemberDescription& member, Access how) {
+    if (member.kind == MemberKind::Method) throw Failure(Status::UnknownMember, "is a method, not a property");
+    if (how == Access::Method) throw Failure(Status::UnknownMember, "is a property, not a method");
+    if (how == Access::Get) throw Failure(Status::WriteOnlyProperty, "can only be set");
+    if (!member.put && !member.putReference) throw Failure(Status::ReadOnlyProperty, "can only be read");
+    throw Failure(Status::UnknownMember, std::string("has no ") + nameOf(how));
+}
+
+} // namespace
+
+void access(Described& object, const MemberDescription& member, Access how, std::span<Variant> arguments,
+            Variant& result) {
+    const Accessor accessor = member.accessor(how);
+    if (!accessor) refuse(member, how);
+    const std::size_t wanted = how == Access::Get ? 0 : member.argumentCount;
+    if (arguments.size() != wanted)
+        throw Failure(Status::ArgumentCount, "takes " + std::to_string(wanted) +
+                                                 (wanted == 1 ? " argument, not " : " arguments, not ") +
+                                                 std::to_string(arguments.size()));
+    accessor(object, arguments, result);
+}
+
+namespace {
+
+const MemberDescription& memberOf(const Described& object, StringView name) {
+    if (const auto* member = object.description().find(name)) return *member;
+    throw Failure(Status::UnknownMember,
+                  toUtf8(object.description().name) + " has no member named " + toUtf8(name));
+}
+
+} // namespace
+
+Variant getMember(Described& object, StringView name) {
+    Variant result;
+    access(object, memberOf(object, name), Access::Get, {}, result);
+    return result;
+}
+
+void putMember(Described& object, StringView name, const Variant& value) {
+    Variant argument = value;
+    Variant result;
+    access(object, memberOf(object, name), Access::Put, {&argument, 1}, result);
+}
+
+} // namespace zilvo::platform

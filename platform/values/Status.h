@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace zilvo::platform {
+
+/// The platform's status codes. Ok is the only success that carries a result; False is a success that answers no.
+enum class Status : std::uint32_t {
+    Ok = 0x00000000,
+    False = 0x00000001,
+    NotImplemented = 0x80004001,
+    NoInterface = 0x80004002,
+    Failed = 0x80004005,
+    UnexpectedCall = 0x8000FFFF,
+    UnknownMember = 0x80020003,
+    ArgumentCount = 0x8002000E,
+    FileNotFound = 0x80070002,
+    OutOfMemory = 0x8007000E,
+    BadComponent = 0x800700C1,
+    InUse = 0x800700AA,
+    ClassNotAvailable = 0x80040111,
+    Overflow = 0x800A0006,
+    SubscriptOutOfRange = 0x800A0009,
+    TypeMismatch = 0x800A000D,
+    MissingElement = 0x800A0154,
+    InvalidPropertyValue = 0x800A017C,
+    ReadOnlyProperty = 0x800A017F,
+    WriteOnlyProperty = 0x800A018A,
+};
+
+constexpr bool succeeded(Status status) noexcept {
+    return (static_cast<std::uint32_t>(status) & 0x80000000U) == 0;
+}
+
+/// The status in words, for messages and scripts: "overflow", "type mismatch", "unknown member".
+const char* nameOf(Status status) noexcept;
+
+/// A failing call. The message (UTF-8) names the object, the member and the offending value. It travels through
+/// handlers untouched and undoes nothing; the module's edge turns it into a status.
+class Failure : public std::exception {
+public:
+    Failure(Status status, std::string message);
+    ~Failure() override;
+    Failure(const Failure&) = default;
+    Failure& operator=(const Failure&) = default;
+
+    Status status() const noexcept { return status_; }
+    const char* what() const noexcept override { return message_.c_str(); }
+
+private:
+    Status status_;
+    std::string message_;
+};
+
+/// Where a failing call across the module's edge leaves its message; untouched by a call that succeeds.
+struct ErrorInfo {
+    std::string message;
+};
+
+/// Turns the exception being handled into the status that the module's edge gives. `context` ("ssOKCancel.Cancel")
+/// is put in front of the message; `error` may be null.
+Status statusOfCurrentException(ErrorInfo* error, const std::string& context) noexcept;
+
+/// The module's edge: runs `body`, which may throw, and gives a status. `context` is called only on failure and
+/// names the object and the member.
+template <class Body, class Context>
+Status atTheEdge(ErrorInfo* error, const Context& context, const Body& body) noexcept {
+    try {
+        body();
+        return Status::Ok;
+    } catch (...) {
+        return statusOfCurrentException(error, context());
+    }
+}
+
+/// The host's side of the edge: throws the Failure that a status stands for; `error` holds its message.
+void throwUnlessOk(Status status, const ErrorInfo& error);
+
+} // namespace zilvo::platform

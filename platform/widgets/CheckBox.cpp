@@ -1,0 +1,46 @@
+#include "platform/widgets/CheckBox.h"
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&CheckBox::get_Value, &CheckBox::put_Value>(2, u"Value", u"newValue"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+CheckBox::CheckBox(Container& container, const Design& design, ClickHandler click)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), value_(design.Value), mark_(design.Mark),
+      click_(click) {}
+
+void CheckBox::put_Value(Integer newValue) {
+    if (newValue == value_) return;
+    if (newValue < Unchecked || newValue > Greyed)
+        throw Failure(Status::InvalidPropertyValue,
+                      platform::describe(*this, "Value") + " cannot be " + platform::describe(Variant(newValue)));
+    value_ = newValue;
+    changed();
+    Integer index = this->index();
+    click_(index);
+}
+
+const ClassDescription& CheckBox::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"CheckBox", .members = members, .base = &captionedMembers};
+    return description;
+}
+
+void CheckBox::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    const auto state = value_ == Checked  ? look::CheckState::Ticked
+                       : value_ == Greyed ? look::CheckState::Greyed
+                                          : look::CheckState::Clear;
+    look::check(painter, area,
+                {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
+                 .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                state);
+}
+
+} // namespace zilvo::platform

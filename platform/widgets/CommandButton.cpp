@@ -1,0 +1,64 @@
+#include "platform/widgets/CommandButton.h"
+
+#include "platform/widgets/Look.h"
+#include "platform/widgets/Surface.h"
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&CommandButton::get_Default, &CommandButton::put_Default>(3, u"Default", u"newDefault"),
+    property<&CommandButton::get_Cancel, &CommandButton::put_Cancel>(4, u"Cancel", u"newCancel"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+CommandButton::CommandButton(Container& container, const Design& design, ClickHandler click)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), click_(click) {
+    if (design.Default) surface().defaultButton = this;
+    if (design.Cancel) surface().cancelButton = this;
+}
+
+bool CommandButton::get_Default() const noexcept {
+    return surface().defaultButton == this;
+}
+
+void CommandButton::put_Default(bool newDefault) {
+    if (newDefault == get_Default()) return;
+    surface().defaultButton = newDefault ? this : nullptr;
+    changed();
+}
+
+bool CommandButton::get_Cancel() const noexcept {
+    return surface().cancelButton == this;
+}
+
+void CommandButton::put_Cancel(bool newCancel) {
+    if (newCancel == get_Cancel()) return;
+    surface().cancelButton = newCancel ? this : nullptr;
+}
+
+void CommandButton::userClick() {
+    Integer index = this->index();
+    click_(index);
+}
+
+const ClassDescription& CommandButton::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"CommandButton", .members = members, .base = &captionedMembers};
+    return description;
+}
+
+void CommandButton::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), isFocused() || get_Default());
+    Rectangle inner = area.inset(4 * TwipsPerPixel);
+    if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};
+    paintCaption(painter, inner,
+                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()),
+                  .greyed = !get_Enabled()});
+    if (isFocused()) look::focus(painter, inner);
+}
+
+} // namespace zilvo::platform

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/painting/TextLayout.h"
+#include "platform/widgets/CaptionedWidget.h"
+
+namespace zilvo::platform {
+
+/// A line or block of text. Takes pointer presses away from what lies behind it and notifies nobody.
+class Label final : public CaptionedWidget {
+public:
+    struct Design {
+        platform::Name Name;
+        Integer Index = NoIndex;
+        Twips Left, Top, Width, Height;
+        const char16_t* Caption = u"";
+        Alignment Align = Alignment::Near;
+        bool Transparent = false; ///< no ground of its own: what lies behind shows
+        bool Sunken = false;      ///< a sunken border of one pixel
+        Colour BackColor = colours::ButtonFace;
+        Colour ForeColor = colours::ButtonText;
+        FontDesign Font = {};
+        bool Enabled = true;
+        bool Visible = true;
+        Integer TabIndex = 0;
+        const char16_t* ToolTipText = u"";
+        Integer ZOrder = 0;
+    };
+
+    Label(Container& container, const Design& design);
+
+    const ClassDescription& description() const noexcept override;
+    void paint(Painter& painter) const override;
+
+private:
+    Alignment align_;
+    bool transparent_;
+    bool sunken_;
+};
+
+} // namespace zilvo::platform

@@ -1,0 +1,132 @@
+#include "platform/widgets/Look.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zilvo::platform::look {
+
+namespace {
+
+constexpr Single Pixel = TwipsPerPixel;
+constexpr Single MarkSize = 13 * Pixel;
+
+void fill(Painter& painter, const Rectangle& area, Rgb colour) {
+    if (area.width > 0 && area.height > 0) painter.rectangle(area, {.fill = colour, .stroke = std::nullopt});
+}
+
+/// The upper and left edges in one colour, the lower and right ones in another, one pixel wide.
+void edges(Painter& painter, const Rectangle& area, Rgb upperLeft, Rgb lowerRight) {
+    fill(painter, {area.left, area.top, area.width - Pixel, Pixel}, upperLeft);
+    fill(painter, {area.left, area.top + Pixel, Pixel, area.height - 2 * Pixel}, upperLeft);
+    fill(painter, {area.left, area.bottom() - Pixel, area.width, Pixel}, lowerRight);
+    fill(painter, {area.right() - Pixel, area.top, Pixel, area.height - Pixel}, lowerRight);
+}
+
+void bevel(Painter& painter, Rectangle area, Single thickness, Rgb upperLeft, Rgb lowerRight) {
+    for (Single done = 0; done < thickness; done += Pixel) {
+        edges(painter, area, upperLeft, lowerRight);
+        area = area.inset(Pixel);
+    }
+}
+
+void captionBeside(Painter& painter, const Rectangle& area, const MarkedLook& look) {
+    const Rectangle caption = partsOf(area, look.side).caption;
+    const Rectangle text = paintCaption(painter, caption,
+                                        {.designed = look.caption, .font = look.font, .colour = look.foreColor,
+                                         .across = Alignment::Near, .greyed = !look.enabled});
+    if (!look.focused) return;
+    const Rectangle around = text.inset(-Pixel);
+    const Single left = std::max(around.left, area.left);
+    const Single top = std::max(around.top, area.top);
+    focus(painter, {left, top, std::min(around.right(), area.right()) - left,
+                    std::min(around.bottom(), area.bottom()) - top});
+}
+
+} // namespace
+
+void raised(Painter& painter, const Rectangle& area, Single thickness) {
+    bevel(painter, area, thickness, White, Shadow);
+}
+
+void sunken(Painter& painter, const Rectangle& area, Single thickness) {
+    bevel(painter, area, thickness, Shadow, White);
+}
+
+void etched(Painter& painter, const Rectangle& area, Single gapFrom, Single gapTo) {
+    // A dark frame and a light one, a pixel apart, each in five strokes so that the caption's gap stays free.
+    const auto frame = [&](const Rectangle& at, Rgb colour) {
+        const Single gapEnd = std::min(std::max(gapFrom, gapTo), at.right());
+        fill(painter, {at.left, at.top, gapFrom - at.left, Pixel}, colour);
+        fill(painter, {gapEnd, at.top, at.right() - gapEnd, Pixel}, colour);
+        fill(painter, {at.left, at.top, Pixel, at.height}, colour);
+        fill(painter, {at.right() - Pixel, at.top, Pixel, at.height}, colour);
+        fill(painter, {at.left, at.bottom() - Pixel, at.width, Pixel}, colour);
+    };
+    const Rectangle inner{area.left, area.top, area.width - Pixel, area.height - Pixel};
+    frame({inner.left + Pixel, inner.top + Pixel, inner.width, inner.height}, White);
+    frame(inner, Shadow);
+}
+
+void focus(Painter& painter, const Rectangle& area) {
+    painter.rectangle(area, {.fill = std::nullopt, .stroke = Black, .dotted = true});
+}
+
+void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed, bool framed) {
+    fill(painter, area, face);
+    const Rectangle inner = framed ? area.inset(Pixel) : area;
+    if (framed) edges(painter, area, Black, Black);
+    if (pressed) {
+        edges(painter, inner, Shadow, White);
+        edges(painter, inner.inset(Pixel), Black, Light);
+    } else {
+        edges(painter, inner, White, Black);
+        edges(painter, inner.inset(Pixel), Light, Shadow);
+    }
+}
+
+void arrow(Painter& painter, const Rectangle& area, bool up, bool greyed) {
+    const Single reach = std::max(Pixel, std::min({4 * Pixel, area.width / 4, area.height / 3}));
+    const Point middle{area.left + area.width / 2, area.top + area.height / 2};
+    const Single tip = up ? -reach / 2 : reach / 2;
+    const std::array<Point, 3> corners = {
+        Point{middle.x - reach, middle.y - tip}, {middle.x + reach, middle.y - tip}, {middle.x, middle.y + tip}};
+    painter.polygon(corners, {.fill = greyed ? Shadow : Black, .stroke = std::nullopt});
+}
+
+void tick(Painter& painter, Point corner, Rgb colour) {
+    const auto at = [&](Single x, Single y) { return Point{corner.x + x * Pixel, corner.y + y * Pixel}; };
+    const std::array<Point, 6> corners = {at(3, 5), at(5, 7), at(10, 2), at(10, 5), at(5, 10), at(3, 8)};
+    painter.polygon(corners, {.fill = colour, .stroke = std::nullopt});
+}
+
+MarkedParts partsOf(const Rectangle& area, MarkSide side) noexcept {
+    const Single gap = 4 * Pixel;
+    const Single top = area.top + std::max(Single{0}, (area.height - MarkSize) / 2);
+    const Single rest = std::max(Single{0}, area.width - MarkSize - gap);
+    if (side == MarkSide::Left) return {{area.left, top}, {area.left + MarkSize + gap, area.top, rest, area.height}};
+    return {{area.right() - MarkSize, top}, {area.left, area.top, rest, area.height}};
+}
+
+void option(Painter& painter, const Rectangle& area, const MarkedLook& look, bool selected) {
+    const Point corner = partsOf(area, look.side).mark;
+    const Rectangle disc{corner.x, corner.y, MarkSize, MarkSize};
+    const bool greyed = look.pressed || !look.enabled;
+    painter.ellipse(disc, {.fill = greyed ? Face : White, .stroke = Shadow});
+    painter.ellipse(disc.inset(Pixel), {.fill = std::nullopt, .stroke = look.enabled ? Black : Shadow});
+    if (selected) painter.ellipse(disc.inset(4 * Pixel), {.fill = look.enabled ? Black : Shadow, .stroke = std::nullopt});
+    captionBeside(painter, area, look);
+}
+
+void check(Painter& painter, const Rectangle& area, const MarkedLook& look, CheckState state) {
+    const Point corner = partsOf(area, look.side).mark;
+    const Rectangle square{corner.x, corner.y, MarkSize, MarkSize};
+    const bool greyed = look.pressed || !look.enabled || state == CheckState::Greyed;
+    fill(painter, square, greyed ? Face : White);
+    edges(painter, square, Shadow, White);
+    edges(painter, square.inset(Pixel), Black, Light);
+    if (state != CheckState::Clear)
+        tick(painter, corner, look.enabled && state == CheckState::Ticked ? Black : Shadow);
+    captionBeside(painter, area, look);
+}
+
+} // namespace zilvo::platform::look

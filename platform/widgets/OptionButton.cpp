@@ -1,0 +1,59 @@
+#include "platform/widgets/OptionButton.h"
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&OptionButton::get_Value, &OptionButton::put_Value>(2, u"Value", u"newValue"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+OptionButton::OptionButton(Container& container, const Design& design, ClickHandler click)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), mark_(design.Mark), click_(click) {
+    if (design.Value) container.selectedOption = this;
+}
+
+void OptionButton::put_Value(bool newValue) {
+    if (newValue) {
+        select();
+    } else if (get_Value()) {
+        container().selectedOption = nullptr;
+        changed();
+    }
+}
+
+void OptionButton::select() {
+    if (get_Value()) return;
+    container().selectedOption = this;
+    changed();
+    Integer index = this->index();
+    click_(index);
+}
+
+bool OptionButton::isTabStop() const noexcept {
+    const OptionButton* selected = container().selectedOption;
+    return !selected || selected == this || !selected->acceptsInput();
+}
+
+bool OptionButton::isInGroupWith(const Widget& other) const noexcept {
+    return &other.container() == &container() && dynamic_cast<const OptionButton*>(&other);
+}
+
+const ClassDescription& OptionButton::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"OptionButton", .members = members, .base = &captionedMembers};
+    return description;
+}
+
+void OptionButton::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    look::option(painter, area,
+                 {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
+                  .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                 get_Value());
+}
+
+} // namespace zilvo::platform

@@ -1,0 +1,44 @@
+#include "platform/widgets/SSCheck.h"
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&SSCheck::get_Value, &SSCheck::put_Value>(2, u"Value", u"newValue"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+SSCheck::SSCheck(Container& container, const Design& design, ClickHandler click)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), value_(design.Value), mark_(design.Mark), click_(click) {}
+
+void SSCheck::put_Value(bool newValue) {
+    if (value_ == newValue) return;
+    value_ = newValue;
+    changed();
+}
+
+void SSCheck::userClick() {
+    put_Value(!value_);
+    Integer index = this->index();
+    auto value = static_cast<Integer>(asBoolean(value_));
+    click_(index, value);
+}
+
+const ClassDescription& SSCheck::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"Threed.SSCheck", .members = members, .base = &captionedMembers};
+    return description;
+}
+
+void SSCheck::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    look::check(painter, area,
+                {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
+                 .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                value_ ? look::CheckState::Ticked : look::CheckState::Clear);
+}
+
+} // namespace zilvo::platform

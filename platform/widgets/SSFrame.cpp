@@ -1,0 +1,32 @@
+#include "platform/widgets/SSFrame.h"
+
+#include "platform/widgets/Look.h"
+
+namespace zilvo::platform {
+
+SSFrame::SSFrame(Container& container, const Design& design)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)) {}
+
+const ClassDescription& SSFrame::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"Threed.SSFrame", .members = {}, .base = &captionedMembers};
+    return description;
+}
+
+void SSFrame::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+
+    // The border runs through the middle of the caption and leaves two pixels on either side of it.
+    const Single indent = 9 * TwipsPerPixel;
+    const Single margin = 2 * TwipsPerPixel;
+    const CaptionLook look{.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()),
+                              .across = Alignment::Near, .down = Alignment::Near, .greyed = !get_Enabled(),
+                              .wraps = false};
+    const Rectangle line{indent, 0, area.width - indent, lineHeight(font())};
+    const Rectangle text = paintCaption(painter, line, look);
+    const Single top = caption().empty() ? 0 : lineHeight(font()) / 2;
+    const Single gapTo = caption().empty() ? indent - margin : text.right() + margin;
+    look::etched(painter, {0, top, area.width, area.height - top}, indent - margin, gapTo);
+}
+
+} // namespace zilvo::platform

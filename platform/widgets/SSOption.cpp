@@ -1,0 +1,55 @@
+#include "platform/widgets/SSOption.h"
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&SSOption::get_Value, &SSOption::put_Value>(2, u"Value", u"newValue"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+SSOption::SSOption(Container& container, const Design& design, ClickHandler click)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), mark_(design.Mark), click_(click) {
+    if (design.Value) container.selectedSSOption = this;
+}
+
+void SSOption::put_Value(bool newValue) {
+    if (newValue == get_Value()) return;
+    container().selectedSSOption = newValue ? this : nullptr;
+    changed();
+}
+
+void SSOption::userClick() {
+    put_Value(true);
+    Integer index = this->index();
+    auto value = static_cast<Integer>(Boolean::True);
+    click_(index, value);
+}
+
+bool SSOption::isTabStop() const noexcept {
+    const SSOption* selected = container().selectedSSOption;
+    return !selected || selected == this || !selected->acceptsInput();
+}
+
+bool SSOption::isInGroupWith(const Widget& other) const noexcept {
+    return &other.container() == &container() && dynamic_cast<const SSOption*>(&other);
+}
+
+const ClassDescription& SSOption::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"Threed.SSOption", .members = members, .base = &captionedMembers};
+    return description;
+}
+
+void SSOption::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    look::option(painter, area,
+                 {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
+                  .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                 get_Value());
+}
+
+} // namespace zilvo::platform

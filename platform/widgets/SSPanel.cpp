@@ -1,0 +1,29 @@
+#include "platform/widgets/SSPanel.h"
+
+#include "platform/widgets/Look.h"
+
+namespace zilvo::platform {
+
+SSPanel::SSPanel(Container& container, const Design& design, MouseDownHandler mouseDown)
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), captionDown_(design.CaptionDown),
+      mouseDown_(mouseDown) {}
+
+void SSPanel::pointerDown(Integer button, Integer shift, Point at) {
+    mouseDown_(button, shift, at.x, at.y);
+}
+
+const ClassDescription& SSPanel::description() const noexcept {
+    static constexpr ClassDescription description{.name = u"Threed.SSPanel", .members = {}, .base = &captionedMembers};
+    return description;
+}
+
+void SSPanel::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    look::raised(painter, area);
+    paintCaption(painter, area.inset(2 * TwipsPerPixel),
+                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()),
+                  .down = captionDown_, .greyed = !get_Enabled()});
+}
+
+} // namespace zilvo::platform

@@ -1,0 +1,66 @@
+#include "platform/widgets/SSRibbon.h"
+
+#include "platform/widgets/Look.h"
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&SSRibbon::get_Value, &SSRibbon::put_Value>(1, u"Value", u"newValue"),
+    property<&SSRibbon::get_BackColor, &SSRibbon::put_BackColor>(2, u"BackColor", u"newBackColor"),
+    property<&SSRibbon::get_Outline, &SSRibbon::put_Outline>(3, u"Outline", u"newOutline"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+SSRibbon::SSRibbon(Container& container, const Design& design, ClickHandler click)
+    : Widget(container, placementOf(design)), pictureUp_(design.PictureUp), pictureDown_(design.PictureDown),
+      backColor_(design.BackColor), outline_(design.Outline), click_(click) {
+    if (design.Value) container.pressedRibbon = this;
+}
+
+void SSRibbon::put_Value(bool newValue) {
+    if (newValue == get_Value()) return;
+    container().pressedRibbon = newValue ? this : nullptr;
+    changed();
+}
+
+void SSRibbon::put_Outline(bool newOutline) {
+    if (outline_ == newOutline) return;
+    outline_ = newOutline;
+    changed();
+}
+
+void SSRibbon::put_BackColor(Colour newBackColor) {
+    backColor_ = newBackColor;
+    changed();
+}
+
+void SSRibbon::userClick() {
+    put_Value(!get_Value());
+    Integer index = this->index();
+    auto value = static_cast<Integer>(asBoolean(get_Value()));
+    click_(index, value);
+}
+
+const ClassDescription& SSRibbon::description() const noexcept {
+    static constexpr ClassDescription description{
+        .name = u"Threed.SSRibbon", .members = members, .base = &commonMembers};
+    return description;
+}
+
+void SSRibbon::paint(Painter& painter) const {
+    const Rectangle area{0, 0, bounds().width, bounds().height};
+    const bool down = get_Value() || isPressed();
+    look::buttonFace(painter, area, rgbOf(backColor_), down, outline_);
+    if (const Bitmap* picture = down && pictureDown_ ? pictureDown_ : pictureUp_) {
+        const Single width = static_cast<Single>(picture->width()) * TwipsPerPixel;
+        const Single height = static_cast<Single>(picture->height()) * TwipsPerPixel;
+        painter.bitmap(*picture, {(area.width - width) / 2, (area.height - height) / 2, width, height});
+    }
+    if (isFocused()) look::focus(painter, area.inset(3 * TwipsPerPixel));
+}
+
+} // namespace zilvo::platform

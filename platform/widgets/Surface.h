@@ -1,0 +1,88 @@
+#pragma once
+
+#include "platform/widgets/Widget.h"
+
+#include <iterator>
+
+namespace zilvo::platform {
+
+/// What a point of the surface belongs to.
+struct Hit {
+    Surface* surface = nullptr; ///< the innermost: the control's own, or that of an embedded control
+    Widget* widget = nullptr;   ///< null where the surface itself shows
+    Point at;                   ///< twips from the corner of the widget, or of the surface
+};
+
+/// The inner surface of one control: its size, its colours and its widgets.
+class Surface : public Container {
+public:
+    /// Goes through the widgets in the order of their creation.
+    class Iterator {
+    public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = Widget;
+        using difference_type = std::ptrdiff_t;
+        using pointer = Widget*;
+        using reference = Widget&;
+
+        Iterator() = default;
+        explicit Iterator(Widget* widget) noexcept : widget_(widget) {}
+        Widget& operator*() const noexcept { return *widget_; }
+        Widget* operator->() const noexcept { return widget_; }
+        Iterator& operator++() noexcept {
+            widget_ = widget_->nextOnSurface();
+            return *this;
+        }
+        Iterator operator++(int) noexcept { return std::exchange(*this, Iterator(widget_->nextOnSurface())); }
+        friend bool operator==(Iterator, Iterator) noexcept = default;
+
+    private:
+        Widget* widget_ = nullptr;
+    };
+    Iterator begin() const noexcept { return Iterator(first_); }
+    Iterator end() const noexcept { return {}; }
+
+    Surface& surface() noexcept final { return *this; }
+    Widget* asWidget() noexcept final { return nullptr; }
+
+    /// The widget by that name (compared without case); `index` chooses an element of a control array. Null when
+    /// there is none.
+    Widget* find(StringView name, Integer index = NoIndex) const noexcept;
+
+    /// Twips.
+    virtual Rectangle area() const noexcept = 0;
+    virtual Colour backColor() const noexcept = 0;
+    virtual Colour foreColor() const noexcept = 0;
+    /// Whether the user can reach the surface at all.
+    virtual bool acceptsInput() const noexcept = 0;
+    virtual void viewChanged() noexcept = 0;
+    /// The widget that embeds the surface's control in another control; null for a control that a host drives.
+    virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
+
+    /// The control's own handlers, for the input router. A pointer press where no widget is; `at` in twips.
+    virtual void surfaceMouseDown(Integer button, Integer shift, Point at) = 0;
+    /// A typed character, before any widget sees it. True when the control acted on it: it goes no further.
+    virtual bool surfaceKeyPress(Integer& keyAscii) = 0;
+
+    /// Front to back; hidden widgets are passed over, disabled ones are hit. `at` in twips.
+    Hit hitTest(Point at);
+    void paint(Painter& painter);
+
+    /// The push buttons that Enter and Escape press; null for none.
+    CommandButton* defaultButton = nullptr;
+    CommandButton* cancelButton = nullptr;
+
+protected:
+    Surface() = default;
+    ~Surface() = default;
+
+private:
+    friend class Widget;
+    void add(Widget& widget) noexcept;
+    void paintChildren(Painter& painter, const Container& container);
+
+    Widget* first_ = nullptr;
+    Widget* last_ = nullptr;
+};
+
+} // namespace zilvo::platform

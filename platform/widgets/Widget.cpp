@@ -1,0 +1,127 @@
+#include "platform/widgets/Widget.h"
+
+#include "platform/widgets/Surface.h"
+
+#include <cmath>
+
+namespace zilvo::platform {
+
+namespace {
+
+constexpr std::array members = {
+    property<&Widget::get_Name>(-800, u"Name"),
+    property<&Widget::get_Index>(-801, u"Index"),
+    property<&Widget::get_Left, &Widget::put_Left>(-802, u"Left", u"newLeft"),
+    property<&Widget::get_Top, &Widget::put_Top>(-803, u"Top", u"newTop"),
+    property<&Widget::get_Width, &Widget::put_Width>(-804, u"Width", u"newWidth"),
+    property<&Widget::get_Height, &Widget::put_Height>(-805, u"Height", u"newHeight"),
+    property<&Widget::get_Visible, &Widget::put_Visible>(-806, u"Visible", u"newVisible"),
+    property<&Widget::get_Enabled, &Widget::put_Enabled>(-807, u"Enabled", u"newEnabled"),
+    property<&Widget::get_ToolTipText, &Widget::put_ToolTipText>(-808, u"ToolTipText", u"newToolTipText"),
+    property<&Widget::get_TabIndex, &Widget::put_TabIndex>(-809, u"TabIndex", u"newTabIndex"),
+};
+static_assert(idsAndNamesAreUnique(members));
+
+} // namespace
+
+const ClassDescription Widget::commonMembers{.name = u"Widget", .members = members};
+
+Widget::Widget(Container& container, const Placement& place)
+    : container_(container), name_(place.name), bounds_(place.bounds), toolTipText_(place.toolTipText),
+      index_(place.index), tabIndex_(place.tabIndex), zOrder_(place.zOrder), visible_(place.visible),
+      enabled_(place.enabled) {
+    surface().add(*this);
+}
+
+std::string describe(const Widget& widget, const char* member) {
+    auto name = toUtf8(widget.name());
+    if (widget.isArrayElement()) name += "(" + std::to_string(widget.index()) + ")";
+    return name + "." + member;
+}
+
+Integer Widget::get_Index() const {
+    if (!isArrayElement())
+        throw Failure(Status::UnknownMember, describe(*this, "Index") + ": the widget is no element of an array");
+    return index_;
+}
+
+void Widget::place(Single Rectangle::*edge, Single value) {
+    const Single twips = value * unit();
+    if (bounds_.*edge == twips) return;
+    const bool isSize = edge == &Rectangle::width || edge == &Rectangle::height;
+    if (!std::isfinite(twips) || (isSize && twips < 0))
+        throw Failure(Status::InvalidPropertyValue,
+                      describe(*this, isSize ? "size" : "position") + " cannot be " + describe(Variant(value)));
+    bounds_.*edge = twips;
+    changed();
+    if (isSize) sizeChanged();
+}
+
+void Widget::followSize(Single width, Single height) noexcept {
+    bounds_.width = width;
+    bounds_.height = height;
+    changed();
+}
+
+void Widget::put_Left(Single newLeft) {
+    place(&Rectangle::left, newLeft);
+}
+
+void Widget::put_Top(Single newTop) {
+    place(&Rectangle::top, newTop);
+}
+
+void Widget::put_Width(Single newWidth) {
+    place(&Rectangle::width, newWidth);
+}
+
+void Widget::put_Height(Single newHeight) {
+    place(&Rectangle::height, newHeight);
+}
+
+void Widget::put_Visible(bool newVisible) {
+    if (visible_ == newVisible) return;
+    visible_ = newVisible;
+    changed();
+}
+
+void Widget::put_Enabled(bool newEnabled) {
+    if (enabled_ == newEnabled) return;
+    enabled_ = newEnabled;
+    changed();
+}
+
+void Widget::put_ToolTipText(StringView newToolTipText) {
+    toolTipText_.set(newToolTipText);
+}
+
+void Widget::put_TabIndex(Integer newTabIndex) {
+    if (newTabIndex < 0)
+        throw Failure(Status::InvalidPropertyValue,
+                      describe(*this, "TabIndex") + " cannot be " + describe(Variant(newTabIndex)));
+    tabIndex_ = newTabIndex;
+}
+
+bool Widget::acceptsInput() const noexcept {
+    if (!visible_ || !enabled_) return false;
+    if (const Widget* outer = parent()) return outer->acceptsInput();
+    return surface().acceptsInput();
+}
+
+void Widget::setFocused(bool focused) noexcept {
+    if (focused_ == focused) return;
+    focused_ = focused;
+    changed();
+}
+
+void Widget::setPressed(bool pressed) noexcept {
+    if (pressed_ == pressed) return;
+    pressed_ = pressed;
+    changed();
+}
+
+void Widget::changed() const noexcept {
+    surface().viewChanged();
+}
+
+} // namespace zilvo::platform

@@ -1,0 +1,175 @@
+#include "platform/painting/SvgPainter.h"
+
+#include "platform/painting/FontMetrics.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <locale>
+#include <map>
+#include <regex>
+#include <vector>
+
+namespace zilvo::platform {
+namespace {
+
+constexpr FontLook Plain{u"Arial", 8.25F, 400, false, false, false};
+constexpr Rgb Black{};
+
+/// Empty when the document is well-formed, else where it is not.
+std::string faultIn(const std::string& document) {
+    static const std::regex token(R"re(<(/?)([a-z]+)((?: [a-zA-Z:-]+="[^"<]*")*)(/?)>|[^<]+)re");
+    static const std::regex bare("&(?!amp;|lt;|gt;|quot;)");
+    std::vector<std::string> open;
+    std::string::const_iterator at = document.begin();
+    for (std::smatch match; at != document.end(); at = match[0].second) {
+        if (!std::regex_search(at, document.end(), match, token, std::regex_constants::match_continuous))
+            return std::string(at, document.end());
+        const std::string part = match.str();
+        if (std::regex_search(part, bare)) return part;
+        for (const char unit : part)
+            if (static_cast<unsigned char>(unit) < 0x20 && unit != '\n') return part;
+        if (!match[2].matched || match.length(4) != 0) continue;
+        if (match.length(1) == 0) {
+            open.push_back(match[2]);
+        } else {
+            if (open.empty() || open.back() != match[2]) return part;
+            open.pop_back();
+        }
+    }
+    return open.empty() ? std::string() : "not closed: " + open.back();
+}
+
+std::size_t countOf(const std::string& text, std::string_view part) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++count;
+    return count;
+}
+
+TEST(SvgPainter, AreasNestAndClose) {
+    SvgPainter painter(1500, 750);
+    painter.leave(); // one too many closes nothing
+    {
+        const PaintedArea outer(painter, {15, 30, 300, -15});
+        const PaintedArea inner(painter, {7.5F, -30, 150, 150});
+        EXPECT_EQ(faultIn(painter.document()), "");
+    }
+    painter.rectangle({0, 0, 15, 15}, {.fill = Black, .stroke = {}}, 0);
+    const std::string document = painter.document();
+    EXPECT_EQ(faultIn(document), "");
+    EXPECT_NE(document.find(R"(width="100" height="50" viewBox="0 0 100 50")"), std::string::npos);
+    EXPECT_NE(
+        document.find(
+            R"(<svg x="1" y="2" width="20" height="0"><svg x="0.5" y="-2" width="10" height="10"></svg></svg><rect)"),
+        std::string::npos);
+}
+
+TEST(SvgPainter, HostileTextStaysWellFormed) {
+    SvgPainter painter(1500, 750);
+    String every;
+    for (char16_t unit = 0; unit < 0xA0; ++unit)
+        every += unit;
+    every += u"]]>&amp;<!--\xFFFE\xFFFF\xDC00\xD800";
+    FontLook font = Plain;
+    font.name = every;
+    painter.text({.text = every, .origin = {}, .width = 900, .font = font, .colour = {}, .underlined = 3});
+    const std::string document = painter.document();
+    EXPECT_EQ(faultIn(document), "");
+    EXPECT_NE(document.find("]]&gt;&amp;amp;&lt;!--\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD<"),
+              std::string::npos);
+    EXPECT_NE(document.find(R"(\')"), std::string::npos);
+    EXPECT_NE(document.find(R"(\\)"), std::string::npos);
+}
+
+TEST(SvgPainter, TheAccessKeyRuleKeepsToTheStretchedRun) {
+    const Single whole = textWidth(u"OK", Plain);
+    SvgPainter painter(1500, 750);
+    painter.text({.text = u"OK",
+                  .origin = {150, 300},
+                  .width = 2 * whole,
+                  .font = Plain,
+                  .colour = {},
+                  .underlined = 0});
+    SvgPainter expected(1500, 750);
+    expected.text({.text = u"OK", .origin = {150, 300}, .width = 2 * whole, .font = Plain, .colour = {}});
+    expected.rectangle({150, 315, 2 * textWidth(u"O", Plain), 15}, {.fill = Black, .stroke = {}}, 0);
+    EXPECT_EQ(painter.document(), expected.document());
+}
+
+TEST(SvgPainter, LinesAndFramesCoverWholePixels) {
+    SvgPainter painter(1500, 750);
+    painter.line({150, 30}, {0, 30}, Black, 15);
+    painter.line({30, 15}, {30, 45}, Black, 30);
+    painter.rectangle({0, 0, 150, 75}, {.fill = {}, .stroke = Black}, 0);
+    painter.rectangle({0, 0, 150, 15}, {.fill = {}, .stroke = Black}, 0);
+    const std::string document = painter.document();
+    for (const char* place :
+         {R"(x="0" y="2" width="10" height="1" fill)", R"(x="2" y="1" width="2" height="2" fill)",
+          R"(x="0.5" y="0.5" width="9" height="4" fill="none")",
+          R"(x="0" y="0" width="10" height="1" fill="#000000")"})
+        EXPECT_NE(document.find(place), std::string::npos) << place;
+}
+
+/// Writes one and a half as "1x5", a thousand as "1y000".
+class OddNumbers final : public std::numpunct<char> {
+public:
+    OddNumbers() : std::numpunct<char>(1) {}
+
+protected:
+    char do_decimal_point() const override { return 'x'; }
+    char do_thousands_sep() const override { return 'y'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(SvgPainter, NumbersAreShortFiniteAndOfNoLocale) {
+    constexpr Single endless = std::numeric_limits<Single>::infinity();
+    constexpr Single none = std::numeric_limits<Single>::quiet_NaN();
+    const OddNumbers odd;
+    const std::locale before = std::locale::global(std::locale(std::locale(), &odd));
+    SvgPainter painter(150000, 22.5F);
+    painter.rectangle({-0.01F, 5, 7.5F, 18.75F}, {.fill = Black, .stroke = {}}, 0);
+    painter.rectangle({none, -endless, endless, 3e38F}, {.fill = Black, .stroke = Black, .strokeWidth = none},
+                      none);
+    painter.line({none, 0}, {endless, 75}, Black, endless);
+    painter.text(
+        {.text = u"a", .origin = {none, 0}, .width = endless, .font = Plain, .colour = {}, .underlined = 0});
+    const std::string document = painter.document();
+    std::locale::global(before);
+    EXPECT_NE(document.find(R"(width="10000" height="1.5")"), std::string::npos);
+    EXPECT_NE(document.find(R"(<rect x="0" y="0.33" width="0.5" height="1.25")"), std::string::npos);
+    EXPECT_FALSE(std::regex_search(document, std::regex("[\" ]-?(nan|inf)|\"-0\"|[0-9][xye][0-9]|[0-9]{9}")))
+        << document;
+}
+
+TEST(SvgPainter, RunsOfABitmapCoverEachPixelOnceInItsColour) {
+    Bitmap picture(5, 4, {1, 2, 3});
+    for (int i = 0; i < 4; ++i)
+        picture.set(i, i, {0xFF, 0, static_cast<std::uint8_t>(i / 2)});
+    picture.set(3, 0, {0xFF, 0, 0});
+    SvgPainter painter(1500, 750);
+    painter.bitmap(picture, {0, 0, 150, 150});
+    const std::string document = painter.document();
+    EXPECT_EQ(faultIn(document), "");
+    EXPECT_EQ(countOf(document, "<path"), 3U);
+
+    std::map<std::pair<int, int>, std::string> covered;
+    const std::regex path(R"re(<path fill="(#[0-9a-f]{6})" d="([^"]*)")re");
+    const std::regex run("M([0-9]+) ([0-9]+)h([0-9]+)v1h-([0-9]+)z");
+    for (std::sregex_iterator it(document.begin(), document.end(), path), end; it != end; ++it) {
+        const std::string runs = (*it)[2];
+        for (std::sregex_iterator part(runs.begin(), runs.end(), run); part != end; ++part) {
+            EXPECT_EQ((*part)[3], (*part)[4]);
+            for (int i = 0; i < std::stoi((*part)[3]); ++i)
+                EXPECT_TRUE(
+                    covered.try_emplace({std::stoi((*part)[1]) + i, std::stoi((*part)[2])}, (*it)[1]).second);
+        }
+    }
+    EXPECT_EQ(covered.size(), 20U);
+    EXPECT_EQ((covered[{2, 2}]), "#ff0001");
+    EXPECT_EQ((covered[{3, 0}]), "#ff0000");
+    EXPECT_EQ((covered[{4, 3}]), "#010203");
+}
+
+} // namespace
+} // namespace zilvo::platform
