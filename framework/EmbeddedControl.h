@@ -15,8 +15,7 @@ struct EmbeddedEvent {
 template <Long Number, auto Handler, class Target>
 EmbeddedEvent handles(Target* target) {
     return {Number, {target, [](void* object, std::span<Variant> arguments) {
-                         Variant nothing;
-                         platform::detail::Call<Handler>::run(*static_cast<Target*>(object), arguments, nothing);
+                         platform::detail::Call<Handler>::run(*static_cast<Target*>(object), arguments, nullptr);
                      }}};
 }
 

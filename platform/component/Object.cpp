@@ -17,7 +17,7 @@ std::string shown(MemberId id) {
 }
 
 template <class Which>
-Status unknownMember(const ClassDescription& description, const Which& which, ErrorInfo* error) noexcept {
+[[gnu::cold, gnu::noinline]] Status unknownMember(const ClassDescription& description, const Which& which, ErrorInfo* error) noexcept {
     return atTheEdge(error, [&] { return toUtf8(description.name); },
                      [&] { throw Failure(Status::UnknownMember, "there is no " + shown(which)); });
 }
@@ -36,10 +36,7 @@ Status Object::invoke(const MemberDescription* member, const Which& which, Acces
     if (!member) return unknownMember(description(), which, error);
     const Ref<Object> alive(*this);
     return atTheEdge(error, [&] { return toUtf8(description().name) + "." + toUtf8(member->name); },
-                     [&] {
-                         Variant ignored;
-                         access(*this, *member, how, arguments, result ? *result : ignored);
-                     });
+                     [&] { access(*this, *member, how, arguments, result); });
 }
 
 Status Object::Invoke(MemberId id, Access how, std::span<Variant> arguments, Variant* result,
@@ -69,10 +66,7 @@ Status invoke(Described& target, StringView name, Access how, std::span<Variant>
     const auto* member = target.description().find(name);
     if (!member) return unknownMember(target.description(), name, error);
     return atTheEdge(error, [&] { return toUtf8(target.description().name) + "." + toUtf8(member->name); },
-                     [&] {
-                         Variant ignored;
-                         access(target, *member, how, arguments, result ? *result : ignored);
-                     });
+                     [&] { access(target, *member, how, arguments, result); });
 }
 
 namespace {
@@ -93,7 +87,7 @@ Variant get(Object& object, StringView name) {
 void put(Object& object, StringView name, const Variant& value) {
     const auto* member = object.description().find(name);
     Variant argument = value;
-    invokeOrThrow(object, name, member && member->putReference ? Access::PutReference : Access::Put, {&argument, 1});
+    invokeOrThrow(object, name, member && member->accessor(Access::PutReference) ? Access::PutReference : Access::Put, {&argument, 1});
 }
 
 Variant call(Object& object, StringView name, std::span<Variant> arguments) {

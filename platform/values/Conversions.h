@@ -33,6 +33,11 @@ std::string describe(const Variant& value);
 /// Conversion by C++ type; enumerations accept any 32-bit value.
 template <class T>
 T convert(const Variant& value, StringView what = {}) {
+    // What already has the kind, as most values do, is taken without a call.
+    using Held = std::conditional_t<std::is_same_v<T, bool>, Boolean, std::conditional_t<std::is_enum_v<T>, Long, T>>;
+    if constexpr (!std::is_same_v<T, FontRef>)
+        if (const Held* held = value.find<Held>()) return static_cast<T>(*held);
+
     if constexpr (std::is_same_v<T, bool>)
         return toBoolean(value, what);
     else if constexpr (std::is_same_v<T, Integer>)

@@ -12,28 +12,19 @@ const char* nameOf(Access access) noexcept {
     return "";
 }
 
-namespace {
-
-[[noreturn]] void refuse(const MemberDescription& member, Access how) {
+void refuseAccess(const MemberDescription& member, Access how, std::size_t given) {
+    if (member.accessor(how)) {
+        const auto wanted = how == Access::Get ? std::size_t{0} : member.argumentCount;
+        throw Failure(Status::ArgumentCount, "takes " + std::to_string(wanted) +
+                                                 (wanted == 1 ? " argument, not " : " arguments, not ") +
+                                                 std::to_string(given));
+    }
     if (member.kind == MemberKind::Method) throw Failure(Status::UnknownMember, "is a method, not a property");
     if (how == Access::Method) throw Failure(Status::UnknownMember, "is a property, not a method");
     if (how == Access::Get) throw Failure(Status::WriteOnlyProperty, "can only be set");
-    if (!member.put && !member.putReference) throw Failure(Status::ReadOnlyProperty, "can only be read");
+    if (!member.accessor(Access::Put) && !member.accessor(Access::PutReference))
+        throw Failure(Status::ReadOnlyProperty, "can only be read");
     throw Failure(Status::UnknownMember, std::string("has no ") + nameOf(how));
-}
-
-} // namespace
-
-void access(Described& object, const MemberDescription& member, Access how, std::span<Variant> arguments,
-            Variant& result) {
-    const Accessor accessor = member.accessor(how);
-    if (!accessor) refuse(member, how);
-    const std::size_t wanted = how == Access::Get ? 0 : member.argumentCount;
-    if (arguments.size() != wanted)
-        throw Failure(Status::ArgumentCount, "takes " + std::to_string(wanted) +
-                                                 (wanted == 1 ? " argument, not " : " arguments, not ") +
-                                                 std::to_string(arguments.size()));
-    accessor(object, arguments, result);
 }
 
 namespace {
@@ -48,14 +39,13 @@ const MemberDescription& memberOf(const Described& object, StringView name) {
 
 Variant getMember(Described& object, StringView name) {
     Variant result;
-    access(object, memberOf(object, name), Access::Get, {}, result);
+    access(object, memberOf(object, name), Access::Get, {}, &result);
     return result;
 }
 
 void putMember(Described& object, StringView name, const Variant& value) {
     Variant argument = value;
-    Variant result;
-    access(object, memberOf(object, name), Access::Put, {&argument, 1}, result);
+    access(object, memberOf(object, name), Access::Put, {&argument, 1}, nullptr);
 }
 
 } // namespace zilvo::platform

@@ -61,8 +61,8 @@ protected:
     ~Described() = default;
 };
 
-/// Runs one accessor: converts the arguments, calls it, and leaves its result.
-using Accessor = void (*)(Described& object, std::span<Variant> arguments, Variant& result);
+/// Runs one accessor: converts the arguments, calls it, and leaves its result where `result` points, unless null.
+using Accessor = void (*)(Described& object, std::span<Variant> arguments, Variant* result);
 
 struct MemberDescription {
     static constexpr std::size_t MostArguments = 4;
@@ -76,24 +76,17 @@ struct MemberDescription {
     std::array<ArgumentDescription, MostArguments> argument{};
     std::size_t argumentCount = 0;
 
-    Accessor get = nullptr;
-    Accessor put = nullptr;
-    Accessor putReference = nullptr;
-    Accessor call = nullptr;
+    /// By Access; null for what the member does not have.
+    std::array<Accessor, 4> accessors{};
 
     constexpr std::span<const ArgumentDescription> arguments() const noexcept {
         return {argument.data(), argumentCount};
     }
-    constexpr Accessor accessor(Access access) const noexcept {
-        switch (access) {
-        case Access::Get: return get;
-        case Access::Put: return put;
-        case Access::PutReference: return putReference;
-        case Access::Method: return call;
-        }
-        return nullptr;
-    }
+    constexpr Accessor accessor(Access access) const noexcept { return accessors[static_cast<std::size_t>(access)]; }
+    constexpr Accessor& accessor(Access access) noexcept { return accessors[static_cast<std::size_t>(access)]; }
 };
+
+[[noreturn]] void refuseAccess(const MemberDescription& member, Access how, std::size_t given);
 
 struct ClassDescription {
     StringView name;
@@ -118,8 +111,13 @@ struct ClassDescription {
 /// Calls one accessor of a member. Fails with ArgumentCount, UnknownMember (a method asked as a property), the
 /// read- or write-only statuses, the failure of an argument's conversion (earlier arguments converted, nothing
 /// called), or whatever the member itself fails with. By-reference arguments are left in `arguments`.
-void access(Described& object, const MemberDescription& member, Access how, std::span<Variant> arguments,
-            Variant& result);
+inline void access(Described& object, const MemberDescription& member, Access how, std::span<Variant> arguments,
+                   Variant* result) {
+    const Accessor accessor = member.accessor(how);
+    const std::size_t wanted = how == Access::Get ? 0 : member.argumentCount;
+    if (!accessor || arguments.size() != wanted) refuseAccess(member, how, arguments.size());
+    accessor(object, arguments, result);
+}
 
 /// The same by name, for widgets and fonts: fails with UnknownMember when there is no such member.
 Variant getMember(Described& object, StringView name);
@@ -225,21 +223,21 @@ template <auto Function>
 struct Call {
     using Of = Signature<decltype(Function)>;
 
-    static void run(Described& object, std::span<Variant> arguments, Variant& result) {
+    static void run(Described& object, std::span<Variant> arguments, Variant* result) {
         run(static_cast<typename Of::Class&>(object), arguments, result, std::make_index_sequence<Of::count>());
     }
 
 private:
     template <std::size_t... I>
     static void run(typename Of::Class& object, [[maybe_unused]] std::span<Variant> arguments,
-                    [[maybe_unused]] Variant& result, std::index_sequence<I...>) {
+                    [[maybe_unused]] Variant* result, std::index_sequence<I...>) {
         // Braces: the arguments convert from left to right.
         [[maybe_unused]] typename Of::Arguments converted{
             std::tuple_element_t<I, typename Of::Arguments>(arguments[I])...};
         if constexpr (std::is_void_v<typename Of::Result>)
             (object.*Function)(std::get<I>(converted).pass()...);
-        else
-            result = toVariant((object.*Function)(std::get<I>(converted).pass()...));
+        else if (auto given = toVariant((object.*Function)(std::get<I>(converted).pass()...)); result)
+            *result = std::move(given);
         (giveBack(std::get<I>(converted)), ...);
     }
     template <class A>
@@ -254,7 +252,7 @@ constexpr MemberDescription property(MemberId id, StringView name) {
     member.id = id;
     member.name = name;
     member.type = typeOf<std::remove_cvref_t<typename Signature<decltype(Get)>::Result>>();
-    member.get = &Call<Get>::run;
+    member.accessor(Access::Get) = &Call<Get>::run;
     return member;
 }
 
@@ -271,7 +269,7 @@ template <auto Get, auto Put>
 constexpr MemberDescription property(MemberId id, StringView name, StringView argument) {
     auto member = detail::property<Get>(id, name);
     detail::Signature<decltype(Put)>::describe(member, &argument, std::index_sequence<0>());
-    member.put = &detail::Call<Put>::run;
+    member.accessor(Access::Put) = &detail::Call<Put>::run;
     return member;
 }
 
@@ -279,7 +277,7 @@ constexpr MemberDescription property(MemberId id, StringView name, StringView ar
 template <auto Get, auto PutReference>
 constexpr MemberDescription propertyByReference(MemberId id, StringView name, StringView argument) {
     auto member = property<Get, PutReference>(id, name, argument);
-    member.putReference = std::exchange(member.put, nullptr);
+    std::swap(member.accessor(Access::Put), member.accessor(Access::PutReference));
     return member;
 }
 
@@ -294,7 +292,7 @@ constexpr MemberDescription method(MemberId id, StringView name, const Names&...
     member.type = detail::typeOf<std::remove_cvref_t<typename Of::Result>>();
     const std::array<StringView, sizeof...(Names) + 1> names{StringView(argumentNames)...};
     Of::describe(member, names.data(), std::make_index_sequence<Of::count>());
-    member.call = &detail::Call<Function>::run;
+    member.accessor(Access::Method) = &detail::Call<Function>::run;
     return member;
 }
 

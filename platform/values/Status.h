@@ -63,6 +63,16 @@ struct ErrorInfo {
 /// is put in front of the message; `error` may be null.
 Status statusOfCurrentException(ErrorInfo* error, const std::string& context) noexcept;
 
+namespace detail {
+
+/// Kept out of the way of the calls that succeed.
+template <class Context>
+[[gnu::cold, gnu::noinline]] Status failedAtTheEdge(ErrorInfo* error, const Context& context) noexcept {
+    return statusOfCurrentException(error, context());
+}
+
+} // namespace detail
+
 /// The module's edge: runs `body`, which may throw, and gives a status. `context` is called only on failure and
 /// names the object and the member.
 template <class Body, class Context>
@@ -71,7 +81,7 @@ Status atTheEdge(ErrorInfo* error, const Context& context, const Body& body) noe
         body();
         return Status::Ok;
     } catch (...) {
-        return statusOfCurrentException(error, context());
+        return detail::failedAtTheEdge(error, context);
     }
 }
 

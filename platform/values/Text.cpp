@@ -97,8 +97,7 @@ String toUtf16(std::string_view text) {
     return out;
 }
 
-bool sameName(StringView one, StringView other) noexcept {
-    if (one.size() != other.size()) return false;
+bool sameLetters(StringView one, StringView other) noexcept {
     for (std::size_t i = 0; i < one.size(); ++i)
         if (one[i] != other[i] && folded(one[i]) != folded(other[i])) return false;
     return true;

@@ -10,8 +10,12 @@ namespace zilvo::platform {
 std::string toUtf8(StringView text);
 String toUtf16(std::string_view text);
 
+bool sameLetters(StringView one, StringView other) noexcept;
+
 /// Published names compare without case; they are ASCII.
-bool sameName(StringView one, StringView other) noexcept;
+inline bool sameName(StringView one, StringView other) noexcept {
+    return one.size() == other.size() && sameLetters(one, other);
+}
 
 /// The text without its access-key marks ("&OK" is "OK", "&&" is "&") and where the marked letter then stands.
 struct Caption {

@@ -7,6 +7,12 @@ namespace zilvo::platform {
 
 namespace {
 
+bool anyHasFocus(const Surface& surface) noexcept {
+    for (const Widget& widget : surface)
+        if (widget.isFocused() && dynamic_cast<const CommandButton*>(&widget)) return true;
+    return false;
+}
+
 constexpr std::array members = {
     property<&CommandButton::get_Default, &CommandButton::put_Default>(3, u"Default", u"newDefault"),
     property<&CommandButton::get_Cancel, &CommandButton::put_Cancel>(4, u"Cancel", u"newCancel"),
@@ -52,7 +58,9 @@ const ClassDescription& CommandButton::description() const noexcept {
 
 void CommandButton::paint(Painter& painter) const {
     const Rectangle area{0, 0, bounds().width, bounds().height};
-    look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), isFocused() || get_Default());
+    // A push button that has the keyboard takes the heavy frame from the default one: Enter presses it.
+    const bool framed = isFocused() || (get_Default() && !anyHasFocus(surface()));
+    look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), framed);
     Rectangle inner = area.inset(4 * TwipsPerPixel);
     if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};
     paintCaption(painter, inner,

@@ -1,0 +1,63 @@
+#include "bench/Heap.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <map>
+#include <string>
+
+// Runs the benchmarks and states each as a ratio to a bare std::function call measured in the same run, beside the
+// most that it should take. The medians of the repetitions are compared, taken in turn so that a drift of the
+// machine's speed meets all of them.
+
+namespace {
+
+class RatioReporter final : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs) {
+            if (run.run_type != Run::RT_Aggregate || run.aggregate_name != "median") continue;
+            const auto name = run.run_name.function_name;
+            order_.push_back(name);
+            medians_[name] = run;
+        }
+    }
+    void Finalize() override {
+        const auto base = medians_.find("a bare std::function call");
+        std::printf("%-52s %10s %9s %9s\n", "", "median", "ratio", "at most");
+        for (const auto& name : order_) {
+            const Run& run = medians_[name];
+            const double nanoseconds = run.GetAdjustedCPUTime();
+            std::printf("%-52s %7.1f ns", name.c_str(), nanoseconds);
+            if (base != medians_.end())
+                std::printf(" %9.2f", nanoseconds / base->second.GetAdjustedCPUTime());
+            if (const auto limit = run.counters.find("limit"); limit != run.counters.end())
+                std::printf(" %9.1f", limit->second.value);
+            std::printf("\n");
+        }
+        for (const auto& name : order_)
+            for (const auto& [counter, value] : medians_[name].counters)
+                if (counter != "limit")
+                    std::printf("%s: %s %.0f\n", name.c_str(), counter.c_str(), value.value);
+    }
+
+private:
+    std::vector<std::string> order_;
+    std::map<std::string, Run> medians_;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::vector<char*> arguments(argv, argv + argc);
+    std::string repetitions = "--benchmark_repetitions=15";
+    std::string interleaved = "--benchmark_enable_random_interleaving=true";
+    std::string minimum = "--benchmark_min_time=0.05";
+    for (std::string* option : {&repetitions, &interleaved, &minimum})
+        arguments.insert(arguments.begin() + 1, option->data());
+    auto count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+}
