@@ -1,0 +1,206 @@
+#include "hosts/console/Describe.h"
+
+#include <algorithm>
+#include <bit>
+#include <sstream>
+
+namespace zilvo::console {
+
+using namespace platform;
+
+namespace {
+
+constexpr std::array propertyAccesses = {Access::Get, Access::Put, Access::PutReference};
+
+Json argumentsOf(std::span<const ArgumentDescription> arguments, bool allByReference) {
+    Json list = Json::array();
+    for (const ArgumentDescription& argument : arguments)
+        list.push_back({{"name", toUtf8(argument.name)},
+                        {"type", toUtf8(argument.type.name())},
+                        {"byRef", allByReference || argument.byReference}});
+    return list;
+}
+
+Json accessOf(const MemberDescription& member) {
+    if (member.kind == MemberKind::Method) return nullptr;
+    Json list = Json::array();
+    for (const Access access : propertyAccesses)
+        if (member.accessor(access)) list.push_back(nameOf(access));
+    return list;
+}
+
+Json memberJson(const MemberDescription& member) {
+    return {{"id", member.id},
+            {"name", toUtf8(member.name)},
+            {"kind", member.kind == MemberKind::Method ? "method" : "property"},
+            {"access", accessOf(member)},
+            {"type", member.type.kind == Kind::Empty ? Json() : Json(toUtf8(member.type.name()))},
+            {"arguments", argumentsOf(member.arguments(), false)}};
+}
+
+Json eventJson(const EventDescription& event) {
+    return {{"id", event.number}, {"name", toUtf8(event.name)}, {"arguments", argumentsOf(event.arguments(), true)}};
+}
+
+std::string interfaceName(const ClassEntry& entry) {
+    return "_" + toUtf8(entry.identity.name);
+}
+
+std::string eventInterfaceName(const ClassEntry& entry) {
+    return "__" + toUtf8(entry.identity.name);
+}
+
+Json classJson(const ComponentDescription& component, const ClassEntry& entry) {
+    const ClassIdentity& identity = entry.identity;
+    Json members = Json::array();
+    for (const MemberDescription& member : entry.description.members)
+        members.push_back(memberJson(member));
+    Json events;
+    if (identity.eventInterfaceId) {
+        Json list = Json::array();
+        for (const EventDescription& event : entry.description.events)
+            list.push_back(eventJson(event));
+        events = {{"name", eventInterfaceName(entry)}, {"id", identity.eventInterfaceId->text()}, {"members", list}};
+    }
+    return {
+        {"name", toUtf8(identity.name)},
+        {"classId", identity.classId.text()},
+        {"progId", toUtf8(progIdOf(component.library, identity))},
+        {"bitmap", identity.toolboxBitmap ? Json(*identity.toolboxBitmap) : Json()},
+        {"miscStatus", identity.miscStatus ? Json(*identity.miscStatus) : Json()},
+        {"interface", {{"name", interfaceName(entry)}, {"id", identity.interfaceId.text()}, {"members", members}}},
+        {"events", events},
+    };
+}
+
+Json enumerationJson(const EnumerationDescription& enumeration) {
+    Json members = Json::array();
+    for (const EnumerationMember& member : enumeration.members)
+        members.push_back({{"name", toUtf8(member.name)}, {"value", member.value}});
+    return {{"name", toUtf8(enumeration.name)}, {"id", enumeration.id.text()}, {"members", members}};
+}
+
+std::string versionOf(const LibraryIdentity& library) {
+    return std::to_string(library.majorVersion) + "." + std::to_string(library.minorVersion);
+}
+
+bool uses(const ClassEntry& entry, const EnumerationDescription& enumeration) {
+    const auto carries = [&](const ArgumentDescription& argument) { return argument.type.enumeration == &enumeration; };
+    for (const MemberDescription& member : entry.description.members)
+        if (member.type.enumeration == &enumeration || std::ranges::any_of(member.arguments(), carries)) return true;
+    return std::ranges::any_of(entry.description.events, [&](const EventDescription& event) {
+        return std::ranges::any_of(event.arguments(), carries);
+    });
+}
+
+template <class Visit>
+void forEachEnumeration(const ComponentDescription& component, const ClassEntry* only, const Visit& visit) {
+    for (const EnumerationDescription* enumeration : component.enumerations)
+        if (!only || uses(*only, *enumeration)) visit(*enumeration);
+}
+
+template <class Visit>
+void forEachClass(const ComponentDescription& component, const ClassEntry* only, const Visit& visit) {
+    for (const ClassEntry& entry : component.classes)
+        if (!only || only == &entry) visit(entry);
+}
+
+std::string signature(std::span<const ArgumentDescription> arguments, bool allByReference) {
+    std::string text = "(";
+    for (const ArgumentDescription& argument : arguments) {
+        if (text.size() > 1) text += ", ";
+        if (allByReference || argument.byReference) text += "ByRef ";
+        text += toUtf8(argument.name) + " As " + toUtf8(argument.type.name());
+    }
+    return text + ")";
+}
+
+std::string memberText(const MemberDescription& member) {
+    const auto name = toUtf8(member.name);
+    const auto type = member.type.kind == Kind::Empty ? std::string() : " As " + toUtf8(member.type.name());
+    if (member.kind == MemberKind::Method) return "method " + name + signature(member.arguments(), false) + type;
+    std::string accesses;
+    for (const Access access : propertyAccesses)
+        if (member.accessor(access)) accesses += (accesses.empty() ? "" : ", ") + std::string(nameOf(access));
+    return "property " + name + type + " (" + accesses + ")";
+}
+
+void writeClass(std::ostream& out, const ComponentDescription& component, const ClassEntry& entry) {
+    const ClassIdentity& identity = entry.identity;
+    out << "\nclass " << toUtf8(identity.name) << ' ' << identity.classId.text() << '\n';
+    out << "  ProgID " << toUtf8(progIdOf(component.library, identity)) << '\n';
+    if (identity.toolboxBitmap) out << "  toolbox bitmap " << *identity.toolboxBitmap << '\n';
+    if (identity.miscStatus) out << "  misc status " << hexadecimal(*identity.miscStatus) << '\n';
+    out << "  interface " << interfaceName(entry) << ' ' << identity.interfaceId.text() << '\n';
+    for (const MemberDescription& member : entry.description.members)
+        out << "    " << hexadecimal(std::bit_cast<std::uint32_t>(member.id)) << ' ' << memberText(member) << '\n';
+    if (!identity.eventInterfaceId) return;
+    out << "  events " << eventInterfaceName(entry) << ' ' << identity.eventInterfaceId->text() << '\n';
+    for (const EventDescription& event : entry.description.events)
+        out << "    " << event.number << ' ' << toUtf8(event.name) << signature(event.arguments(), true) << '\n';
+}
+
+} // namespace
+
+Json description(const ComponentDescription& component, const ClassEntry* only) {
+    const LibraryIdentity& library = component.library;
+    Json enumerations = Json::array();
+    forEachEnumeration(component, only, [&](const auto& each) { enumerations.push_back(enumerationJson(each)); });
+    Json classes = Json::array();
+    forEachClass(component, only, [&](const auto& each) { classes.push_back(classJson(component, each)); });
+    return {{"library",
+             {{"name", toUtf8(library.name)},
+              {"id", library.id.text()},
+              {"version", versionOf(library)},
+              {"locale", library.locale},
+              {"helpString", toUtf8(library.helpString)}}},
+            {"enumerations", enumerations},
+            {"classes", classes}};
+}
+
+std::string descriptionText(const ComponentDescription& component, const ClassEntry* only) {
+    const LibraryIdentity& library = component.library;
+    std::ostringstream out;
+    out << "library " << toUtf8(library.name) << ' ' << versionOf(library) << ' ' << library.id.text() << ", locale "
+        << library.locale << "\n  " << toUtf8(library.helpString) << '\n';
+    forEachEnumeration(component, only, [&](const EnumerationDescription& enumeration) {
+        out << "\nenumeration " << toUtf8(enumeration.name) << ' ' << enumeration.id.text() << '\n';
+        for (const EnumerationMember& member : enumeration.members)
+            out << "  " << toUtf8(member.name) << " = " << member.value << '\n';
+    });
+    forEachClass(component, only, [&](const ClassEntry& entry) { writeClass(out, component, entry); });
+    return out.str();
+}
+
+std::string classTable(const ComponentDescription& component) {
+    std::size_t widest = 0;
+    for (const ClassEntry& entry : component.classes)
+        widest = std::max(widest, entry.identity.name.size());
+    const auto padded = [](std::string text, std::size_t width) {
+        text.resize(std::max(text.size(), width), ' ');
+        return text;
+    };
+    std::string lines;
+    for (const ClassEntry& entry : component.classes) {
+        const auto progId = toUtf8(progIdOf(component.library, entry.identity));
+        lines += padded(toUtf8(entry.identity.name), widest) + "  " +
+                 padded(progId, component.library.name.size() + 1 + widest) + "  " + entry.identity.classId.text() +
+                 "\n";
+    }
+    return lines;
+}
+
+const ClassEntry& findClass(const ComponentDescription& component, const std::string& name) {
+    if (const ClassEntry* entry = component.find(toUtf16(name))) return *entry;
+    throw Failure(Status::ClassNotAvailable, toUtf8(component.library.name) + " has no class " + name);
+}
+
+std::string hexadecimal(std::uint32_t number) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text = "0x";
+    for (unsigned shift = 32; shift > 0; shift -= 4)
+        text.push_back(digits[(number >> (shift - 4)) & 0xFU]);
+    return text;
+}
+
+} // namespace zilvo::console

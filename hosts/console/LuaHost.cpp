@@ -1,0 +1,225 @@
+#include "hosts/console/LuaHost.h"
+
+#include "hosts/console/LuaControl.h"
+#include "hosts/console/LuaErrors.h"
+#include "hosts/console/LuaObject.h"
+#include "hosts/console/LuaValues.h"
+#include "hosts/console/LuaWidget.h"
+
+#include <lauxlib.h>
+#include <lualib.h>
+
+#include <iostream>
+
+namespace zilvo::console {
+
+using namespace platform;
+
+namespace {
+
+/// zilvo.describe()
+int describeComponent(lua_State* L) {
+    pushJson(L, description(sessionOf(L).component.description()));
+    return 1;
+}
+
+int beeps(lua_State* L) {
+    lua_pushinteger(L, static_cast<lua_Integer>(sessionOf(L).beeps));
+    return 1;
+}
+
+int alive(lua_State* L) {
+    lua_pushinteger(L, static_cast<lua_Integer>(sessionOf(L).aliveForScripts()));
+    return 1;
+}
+
+/// What the table `zilvo` looks up anew each time.
+constexpr luaL_Reg counters[] = {
+    {"beeps", guarded<beeps>},
+    {"alive", guarded<alive>},
+};
+
+int get(lua_State* L) {
+    if (pushNamed(L, counters, 2))
+        lua_call(L, 0, 1);
+    else
+        lua_pushnil(L);
+    return 1;
+}
+
+int set(lua_State* L) {
+    refuseNamed(L, counters, 2, "zilvo");
+    lua_rawset(L, 1);
+    return 0;
+}
+
+void defineHostTable(lua_State* L) {
+    lua_newtable(L);
+    lua_pushcfunction(L, guarded<createObject>);
+    lua_setfield(L, -2, "create");
+    lua_pushcfunction(L, guarded<describeComponent>);
+    lua_setfield(L, -2, "describe");
+    registerValueFunctions(L);
+
+    lua_newtable(L);
+    lua_pushcfunction(L, guarded<get>);
+    lua_setfield(L, -2, "__index");
+    lua_pushcfunction(L, guarded<set>);
+    lua_setfield(L, -2, "__newindex");
+    lua_setmetatable(L, -2);
+    lua_setglobal(L, "zilvo");
+}
+
+/// A method of an application object, called without naming an instance.
+int callApplication(lua_State* L) {
+    const auto& entry = *static_cast<const ClassEntry*>(lua_touserdata(L, lua_upvalueindex(1)));
+    const auto& member = *static_cast<const MemberDescription*>(lua_touserdata(L, lua_upvalueindex(2)));
+    return callMember(L, sessionOf(L).application(entry), member, Access::Method, 1);
+}
+
+/// Lua has no pointers to constants.
+template <class T>
+void pushPointer(lua_State* L, const T& object) {
+    lua_pushlightuserdata(L, const_cast<T*>(&object)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+}
+
+void defineGlobals(lua_State* L) {
+    const ComponentDescription& component = sessionOf(L).component.description();
+    for (const EnumerationDescription* enumeration : component.enumerations)
+        for (const EnumerationMember& member : enumeration->members) {
+            lua_pushinteger(L, member.value);
+            lua_setglobal(L, toUtf8(member.name).c_str());
+        }
+    for (const ClassEntry& entry : component.classes) {
+        if (entry.identity.isControl()) continue;
+        for (const MemberDescription& member : entry.description.members) {
+            if (member.kind != MemberKind::Method) continue;
+            pushPointer(L, entry);
+            pushPointer(L, member);
+            lua_pushcclosure(L, guarded<callApplication>, 2);
+            lua_setglobal(L, toUtf8(member.name).c_str());
+        }
+    }
+}
+
+int openEverything(lua_State* L) {
+    defineErrors(L);
+    luaL_openlibs(L);
+    defineValues(L);
+    defineControls(L);
+    defineWidgets(L);
+    defineHostTable(L);
+    defineGlobals(L);
+    return 0;
+}
+
+struct Script {
+    const std::string& file;
+    const std::vector<std::string>& arguments;
+};
+
+int runScript(lua_State* L) {
+    const auto& script = *static_cast<const Script*>(lua_touserdata(L, 1));
+    const auto count = static_cast<int>(script.arguments.size());
+    luaL_checkstack(L, count + 4, "for the script's arguments");
+    lua_createtable(L, count, 1);
+    pushText(L, script.file);
+    lua_rawseti(L, -2, 0);
+    for (lua_Integer at = 0; const std::string& argument : script.arguments) {
+        pushText(L, argument);
+        lua_rawseti(L, -2, ++at);
+    }
+    lua_setglobal(L, "arg");
+    if (luaL_loadfilex(L, script.file.c_str(), "t") != LUA_OK) return lua_error(L);
+    for (const std::string& argument : script.arguments)
+        pushText(L, argument);
+    lua_call(L, count, 0);
+    return 0;
+}
+
+/// A statement of a conversation: what has been typed of it so far.
+struct Statement {
+    std::string text;
+    bool isIncomplete = false;
+};
+
+/// Loads it as an expression or, failing that, as statements.
+bool load(lua_State* L, Statement& statement) {
+    const auto loads = [L](const std::string& text) {
+        return luaL_loadbufferx(L, text.data(), text.size(), "=stdin", "t") == LUA_OK;
+    };
+    if (loads("return " + statement.text)) return true;
+    lua_pop(L, 1);
+    if (loads(statement.text)) return true;
+    statement.isIncomplete = std::string_view(lua_tostring(L, -1)).ends_with("<eof>");
+    return false;
+}
+
+int runStatement(lua_State* L) {
+    auto& statement = *static_cast<Statement*>(lua_touserdata(L, 1));
+    if (!load(L, statement)) return lua_error(L);
+    const int before = lua_gettop(L) - 1;
+    lua_call(L, 0, LUA_MULTRET);
+    const int given = lua_gettop(L) - before;
+    luaL_checkstack(L, 2, "for printing");
+    for (int i = 1; i <= given; ++i) {
+        std::cout << (i > 1 ? "\t" : "") << luaL_tolstring(L, before + i, nullptr);
+        lua_pop(L, 1);
+    }
+    if (given > 0) std::cout << '\n';
+    return 0;
+}
+
+/// Calls the function with a pointer to what it works on. False leaves the error's text on the stack.
+template <class T>
+bool callProtected(lua_State* L, lua_CFunction function, T& subject) {
+    lua_settop(L, 0);
+    lua_pushcfunction(L, errorText);
+    lua_pushcfunction(L, function);
+    pushPointer(L, subject);
+    return lua_pcall(L, 1, 0, 1) == LUA_OK;
+}
+
+std::string errorOf(lua_State* L) {
+    const char* text = lua_tostring(L, -1);
+    return text ? text : "an error without a text";
+}
+
+} // namespace
+
+LuaHost::LuaHost(const LoadedComponent& component) : session_(component), lua_(luaL_newstate()) {
+    lua_State* L = lua_.get();
+    if (!L) throw Failure(Status::OutOfMemory, "there is no memory for Lua");
+    attachSession(L, session_);
+    if (!callProtected(L, openEverything, session_)) throw Failure(Status::Failed, errorOf(L));
+}
+
+int LuaHost::run(const std::string& file, const std::vector<std::string>& arguments) {
+    const Script script{file, arguments};
+    const bool succeeded = callProtected(lua_.get(), runScript, script);
+    std::cout.flush();
+    if (!succeeded) std::cerr << "zilvo: " << errorOf(lua_.get()) << '\n';
+    return succeeded ? 0 : 1;
+}
+
+void LuaHost::converse(std::istream& in, bool prompts) {
+    lua_State* L = lua_.get();
+    Statement statement;
+    std::string line;
+    const auto report = [L] { std::cerr << errorOf(L) << '\n'; };
+    for (;;) {
+        if (prompts) std::cout << (statement.isIncomplete ? ">> " : "> ") << std::flush;
+        if (!std::getline(in, line)) break;
+        statement.text += (statement.isIncomplete ? "\n" : "") + line;
+        statement.isIncomplete = false;
+        const bool succeeded = callProtected(L, runStatement, statement);
+        std::cout.flush();
+        if (statement.isIncomplete) continue;
+        if (!succeeded) report();
+        statement = {};
+    }
+    if (prompts) std::cout << '\n';
+    if (statement.isIncomplete) report();
+}
+
+} // namespace zilvo::console

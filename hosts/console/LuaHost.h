@@ -1,0 +1,36 @@
+#pragma once
+
+#include "hosts/console/LuaSession.h"
+
+#include <lua.h>
+
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zilvo::console {
+
+/// A Lua state with the table `zilvo` and the component's names in it. Closed before the component is
+/// unloaded.
+class LuaHost {
+public:
+    explicit LuaHost(const platform::LoadedComponent& component);
+
+    /// Runs a script; gives the program's exit status, an error being written to standard error.
+    int run(const std::string& file, const std::vector<std::string>& arguments);
+
+    /// Reads and runs statements and expressions until the input ends. An error ends the statement only.
+    /// Prompts are for people.
+    void converse(std::istream& in, bool prompts);
+
+private:
+    struct Close {
+        void operator()(lua_State* L) const noexcept { lua_close(L); }
+    };
+
+    Session session_;
+    std::unique_ptr<lua_State, Close> lua_;
+};
+
+} // namespace zilvo::console

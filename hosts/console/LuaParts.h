@@ -1,0 +1,21 @@
+#pragma once
+
+#include "hosts/console/LuaObject.h"
+
+namespace zilvo::console {
+
+/// What of a control has members of its own: c.surface, c.extender, c.ambient.
+enum class Part : std::uint8_t { Surface, Extender, Ambient };
+
+void defineParts(lua_State* L);
+
+/// Pushes a part of the control whose userdata is at that index.
+void pushPart(lua_State* L, int controlIndex, Part which);
+
+/// Sets an ambient property and tells the control. `label` names the ambient properties in messages.
+void setAmbient(platform::ControlHost& host, const std::string& label, const platform::String& name,
+                const platform::Variant& value);
+/// The value at that index for an ambient property. Fails with UnknownMember when there is no such property.
+platform::Variant ambientValue(lua_State* L, int index, const std::string& label, const platform::String& name);
+
+} // namespace zilvo::console

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/component/ComponentRuntime.h"
+
+#include <lua.h>
+
+#include <map>
+
+namespace zilvo::console {
+
+/// What one Lua state knows of its host. Lives longer than the state.
+class Session {
+public:
+    explicit Session(const platform::LoadedComponent& loaded) : component(loaded) {}
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    const platform::LoadedComponent& component;
+    std::size_t beeps = 0;
+    /// The Lua thread whose call into the component is running: an event's handler runs on it.
+    lua_State* current = nullptr;
+    /// Whether an error of a handler is on its way through the component back to the call that led to the
+    /// event.
+    bool errorIsKept = false;
+
+    /// Numbers for controls and handlers, none given twice.
+    lua_Integer nextNumber() noexcept { return ++lastNumber_; }
+
+    /// The one instance of an application object, whose methods scripts call without naming one; made on
+    /// first use.
+    platform::Object& application(const platform::ClassEntry& entry);
+    /// The component's living objects without the application objects above, which no script can let go of.
+    std::size_t aliveForScripts() const { return component.liveObjects() - applications_.size(); }
+
+private:
+    lua_Integer lastNumber_ = 0;
+    std::map<const platform::ClassEntry*, platform::Ref<platform::Object>> applications_;
+};
+
+/// Makes the session known to a Lua state and all its threads.
+void attachSession(lua_State* L, Session& session);
+Session& sessionOf(lua_State* L);
+
+} // namespace zilvo::console

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/widgets/Surface.h"
+
+#include <lua.h>
+
+namespace zilvo::console {
+
+void defineWidgets(lua_State* L);
+
+/// Pushes a handle of the widget, which keeps the control whose userdata is at `controlIndex` alive.
+void pushWidget(lua_State* L, int controlIndex, platform::Widget& widget);
+
+/// Pushes the widget of the surface whose name and index are at `nameIndex` and behind it. `owner` names the
+/// surface in messages. Fails with UnknownMember or MissingElement.
+void pushWidgetNamed(lua_State* L, int controlIndex, const platform::Surface& surface, const std::string& owner,
+                     int nameIndex);
+
+} // namespace zilvo::console

@@ -1,0 +1,156 @@
+#include "hosts/console/Component.h"
+#include "hosts/console/Inspect.h"
+#include "hosts/console/LuaHost.h"
+#include "hosts/console/Snapshot.h"
+#include "platform/component/ComponentRuntime.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <unistd.h>
+
+namespace zilvo::console {
+
+namespace {
+
+using namespace platform;
+
+struct CommandLine {
+    std::filesystem::path component;
+    std::vector<std::string> script; ///< the file, then its arguments
+    std::string className;
+    std::vector<std::string> classNames;
+    std::filesystem::path directory;
+    bool json = false;
+};
+
+int run(const CommandLine& given, const LoadedComponent& component) {
+    LuaHost host(component);
+    return host.run(given.script.front(), {given.script.begin() + 1, given.script.end()});
+}
+
+int repl(const CommandLine&, const LoadedComponent& component) {
+    LuaHost host(component);
+    host.converse(std::cin, isatty(STDIN_FILENO) != 0);
+    return 0;
+}
+
+int list(const CommandLine&, const LoadedComponent& component) {
+    std::cout << classTable(component.description());
+    return 0;
+}
+
+int describe(const CommandLine& given, const LoadedComponent& component) {
+    const ComponentDescription& description = component.description();
+    const ClassEntry* only = given.className.empty() ? nullptr : &findClass(description, given.className);
+    if (given.json)
+        std::cout << console::description(description, only).dump(2) << '\n';
+    else
+        std::cout << descriptionText(description, only);
+    return 0;
+}
+
+int inspect(const CommandLine& given, const LoadedComponent& component) {
+    const ClassEntry& entry = findClass(component.description(), given.className);
+    const Ref<Object> object = component.create(entry.identity.name);
+    const Json tree = inspection(*object);
+    std::cout << (given.json ? tree.dump(2) + "\n" : inspectionText(tree));
+    return 0;
+}
+
+void snapshotOf(const ClassEntry& entry, const CommandLine& given, const LoadedComponent& component) {
+    ControlHost host(component.create(entry.identity.name));
+    host.open();
+    writeFile(given.directory / (toUtf8(entry.identity.name) + ".svg"), svgOf(host));
+}
+
+/// What fails is told and does not keep the others from being written.
+int snapshot(const CommandLine& given, const LoadedComponent& component) {
+    std::error_code error;
+    std::filesystem::create_directories(given.directory, error);
+    if (error)
+        throw Failure(Status::Failed,
+                      "the directory " + given.directory.string() + " cannot be made: " + error.message());
+    int status = 0;
+    const auto attempt = [&](const auto& body) {
+        try {
+            body();
+        } catch (const Failure& failure) {
+            std::cerr << "zilvo: " << failure.what() << '\n';
+            status = 1;
+        }
+    };
+    for (const std::string& name : given.classNames) {
+        if (sameName(toUtf16(name), u"all")) {
+            for (const ClassEntry& entry : component.description().classes)
+                if (entry.identity.isControl()) attempt([&] { snapshotOf(entry, given, component); });
+        } else {
+            attempt([&] { snapshotOf(findClass(component.description(), name), given, component); });
+        }
+    }
+    return status;
+}
+
+using Command = int(const CommandLine& given, const LoadedComponent& component);
+
+int start(int argc, char** argv) {
+    CommandLine given;
+    Command* command = nullptr;
+    CLI::App app("Hosts the controls of a component without a screen.", "zilvo");
+    app.failure_message(CLI::FailureMessage::help);
+    app.require_subcommand(1);
+    const auto takesComponent = [&given](CLI::App& where) {
+        where.add_option("--component", given.component, "the component file, if not the one beside the program")
+            ->type_name("FILE");
+    };
+    takesComponent(app);
+    const auto add = [&](const char* name, const char* text, Command& does) {
+        CLI::App* sub = app.add_subcommand(name, text);
+        sub->fallthrough();
+        sub->callback([&command, &does] { command = &does; });
+        return sub;
+    };
+
+    // All behind the script's name is the script's own.
+    CLI::App* runs = add("run", "runs a host script: run FILE.lua [ARG...]", run);
+    runs->prefix_command();
+    runs->fallthrough(false);
+    takesComponent(*runs);
+    runs->callback([&] {
+        command = run;
+        given.script = runs->remaining();
+        if (given.script.empty()) throw CLI::RequiredError("FILE.lua");
+    });
+    add("repl", "reads and runs statements from standard input", repl);
+    add("list", "lists the classes: name, ProgID, class id", list);
+    CLI::App* describes = add("describe", "writes the type description", describe);
+    describes->add_option("class", given.className, "one class only")->type_name("CLASS");
+    describes->add_flag("--json", given.json, "as JSON");
+    CLI::App* inspects = add("inspect", "writes the widget tree of a fresh instance", inspect);
+    inspects->add_option("class", given.className, "the class")->type_name("CLASS")->required();
+    inspects->add_flag("--json", given.json, "as JSON");
+    CLI::App* snapshots = add("snapshot", "draws new instances into SVG files", snapshot);
+    snapshots->add_option("classes", given.classNames, "the classes, or all")->type_name("CLASS")->required();
+    snapshots->add_option("-o,--output", given.directory, "where the files go")->type_name("DIR")->required();
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error);
+    }
+    try {
+        const LoadedComponent component(componentFile(given.component));
+        return command(given, component);
+    } catch (const std::exception& exception) {
+        std::cerr << "zilvo: " << exception.what() << '\n';
+        return 1;
+    }
+}
+
+} // namespace
+
+} // namespace zilvo::console
+
+int main(int argc, char** argv) {
+    return zilvo::console::start(argc, argv);
+}

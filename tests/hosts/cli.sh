@@ -1,0 +1,114 @@
+#!/bin/sh
+# Usage: cli.sh PROGRAM COMPONENT
+# Checks what the commands print and the exit statuses that scripts rely on.
+set -u
+program=$1
+component=$2
+work=$(mktemp -d) || exit 1
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+complain() {
+    echo "FAILED: $*" >&2
+    sed 's/^/    out: /' "$work/out" >&2
+    sed 's/^/    err: /' "$work/err" >&2
+    failures=$((failures + 1))
+}
+
+# expect STATUS PATTERN ARGUMENT...: runs the program on the component. STATUS is a number or "misuse", for any but 0;
+# a line of its output must match PATTERN.
+expect() {
+    status=$1
+    pattern=$2
+    shift 2
+    "$program" --component "$component" "$@" >"$work/out" 2>"$work/err" </dev/null
+    got=$?
+    case $status in
+    misuse) [ $got -ne 0 ] || complain "$* ended with 0" ;;
+    *) [ $got -eq "$status" ] || complain "$* ended with $got, not $status" ;;
+    esac
+    [ -z "$pattern" ] || cat "$work/out" "$work/err" | grep -q -e "$pattern" || complain "$* did not print $pattern"
+}
+
+script() {
+    printf '%s\n' "$2" >"$work/$1"
+}
+
+# Scripts: success, each way to fail with its line, arguments.
+script good.lua 'assert(arg[0]:find("good.lua", 1, true)); print(#arg, ...)'
+expect 0 '^3	-x	--json	list$' run "$work/good.lua" -x --json list
+expect 0 '^0$' run "$work/good.lua"
+script plain.lua 'local x
+error("stopped here")'
+expect 1 'plain.lua:2: stopped here$' run "$work/plain.lua"
+script table.lua '
+error({})'
+expect 1 'table.lua:2: .*table' run "$work/table.lua"
+script nil.lua 'error(nil)'
+expect 1 'nil.lua:1: .*nil' run "$work/nil.lua"
+script syntax.lua 'x = = 1'
+expect 1 'syntax.lua:1: ' run "$work/syntax.lua"
+script failure.lua 'local c = zilvo.create("ssOKCancel")
+
+c.Nothing = 1'
+expect 1 'failure.lua:3: .*ssOKCancel.*Nothing$' run "$work/failure.lua"
+script handler.lua 'local c = zilvo.create("ssOKCancel")
+c:on("OKWasClicked", function()
+    zilvo.create("Nothing")
+end)
+c:key(13)'
+expect 1 'handler.lua:3: .*Nothing$' run "$work/handler.lua"
+script exit.lua 'zilvo.create("ssOKCancel") os.exit(7, true)'
+expect 7 '' run "$work/exit.lua"
+expect 1 'missing.lua' run "$work/missing.lua"
+expect 1 'irectory' run "$work"
+
+# Information.
+expect 0 '^ssOKCancel .*\.ssOKCancel .*{F183CFF5-42C5-44A4-958C-928E204EBE8B}$' list
+expect 0 '^class ssOKCancel ' describe
+expect 0 '0x68030005 property Cancel As Boolean (get, put)' describe ssokcancel
+expect 0 '^  "library": {$' describe --json
+expect 0 '"progId": "[A-Z_a-z]*\.ssOKCancel"' describe ssOKCancel --json
+expect 1 'Nothing' describe Nothing
+expect 0 'cmdOK: CommandButton .*disabled' inspect ssOKCancel
+expect 0 '^  "class": "ssOKCancel",$' inspect ssOKCancel --json
+expect 1 'Nothing' inspect Nothing
+
+# Pictures: an unknown class is named and does not keep the others from being drawn.
+expect 0 '' snapshot ssOKCancel -o "$work/new/folder"
+grep -q '</svg>' "$work/new/folder/ssOKCancel.svg" || complain "no picture"
+expect 1 'Nothing' snapshot Nothing ssokcancel -o "$work/some"
+[ "$(ls "$work/some")" = ssOKCancel.svg ] || complain "not the one picture: $(ls "$work/some")"
+expect 0 '' snapshot all -o "$work/all"
+[ -s "$work/all/ssOKCancel.svg" ] || complain "no picture among all"
+: >"$work/file"
+expect 1 'file' snapshot ssOKCancel -o "$work/file/below"
+
+# A conversation: errors do not end it, an unfinished statement goes on.
+printf '%s\n' '1 + 1' 'error("oh")' 'for i = 5, 6 do' 'print(i)' 'end' 'x = zilvo.create("ssOKCancel")' \
+    'x.Cancel, x.Default' 'x.Nothing' 'if' >"$work/typed"
+"$program" --component "$component" repl <"$work/typed" >"$work/out" 2>"$work/err" || complain "the conversation failed"
+[ "$(tr '\n' ' ' <"$work/out")" = '2 5 6 true	true ' ] || complain "the conversation printed something else"
+[ "$(grep -c . "$work/err")" -eq 3 ] || complain "the conversation had other errors"
+
+# Misuse: help and a failing status.
+expect misuse 'Usage' inspect
+expect misuse 'Usage' run
+expect misuse 'Usage' frobnicate
+expect misuse 'Usage'
+expect misuse 'Usage' snapshot ssOKCancel
+expect misuse 'Usage' list --json
+expect 0 'Usage' --help
+expect 0 'Usage' run --help
+
+# The component: one that is missing or none at all, and named behind the command too.
+component_given=$component
+component=$work/absent
+expect 1 'absent' list
+component=$work/good.lua
+expect 1 'good.lua' list
+component=$component_given
+"$program" run --component "$component" "$work/good.lua" a >"$work/out" 2>"$work/err" || complain "--component behind run"
+"$program" list --component "$component" >"$work/out" 2>"$work/err" || complain "--component behind list"
+
+[ $failures -eq 0 ]
