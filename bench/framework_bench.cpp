@@ -1,33 +1,12 @@
+#include "bench/Bench.h"
 #include "bench/Heap.h"
 #include "library/ZilvoButtons.h"
 #include "platform/component/ControlHost.h"
 #include "platform/painting/SvgPainter.h"
 
-#include <benchmark/benchmark.h>
-
 namespace zilvo::bench {
 
 namespace {
-
-/// The least that a host can be.
-class NullSite final : public ControlSite {
-public:
-    Ambient& ambient() override { return ambient_; }
-    Extender& extender() override { return extender_; }
-    void PropertyChanged(StringView /*name*/) override {}
-    void SizeChanged(Single /*width*/, Single /*height*/) override {}
-    void Beep() override {}
-
-private:
-    class NullExtender final : public Extender {};
-
-    StandardAmbient ambient_;
-    NullExtender extender_;
-};
-
-void limited(benchmark::State& state, double mostTimesACall) {
-    state.counters["limit"] = mostTimesACall;
-}
 
 void bareCall(benchmark::State& state) {
     long calls = 0;
