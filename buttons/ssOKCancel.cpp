@@ -5,16 +5,16 @@ namespace zilvo {
 namespace {
 
 constexpr std::array members = {
-    property<&ssOKCancel::get_CancelToolTipText, &ssOKCancel::put_CancelToolTipText>(
-        0x68030006, u"CancelToolTipText", u"CancelToolTipTextNewValue"),
+    property<&ssOKCancel::get_CancelToolTipText, &ssOKCancel::put_CancelToolTipText>(0x68030006, u"CancelToolTipText",
+                                                                                     u"CancelToolTipTextNewValue"),
     property<&ssOKCancel::get_Cancel, &ssOKCancel::put_Cancel>(0x68030005, u"Cancel", u"CancelNewValue"),
     property<&ssOKCancel::get_Default, &ssOKCancel::put_Default>(0x68030004, u"Default", u"DefaultNewValue"),
-    property<&ssOKCancel::get_ItalicCancel, &ssOKCancel::put_ItalicCancel>(
-        0x68030003, u"ItalicCancel", u"ItalicCancelNewValue"),
+    property<&ssOKCancel::get_ItalicCancel, &ssOKCancel::put_ItalicCancel>(0x68030003, u"ItalicCancel",
+                                                                           u"ItalicCancelNewValue"),
     property<&ssOKCancel::get_ItalicOK, &ssOKCancel::put_ItalicOK>(0x68030002, u"ItalicOK", u"ItalicOKNewValue"),
     property<&ssOKCancel::get_OKEnabled, &ssOKCancel::put_OKEnabled>(0x68030001, u"OKEnabled", u"newEnabledValue"),
-    property<&ssOKCancel::get_OKToolTipText, &ssOKCancel::put_OKToolTipText>(
-        0x68030000, u"OKToolTipText", u"OKToolTipTextNewValue"),
+    property<&ssOKCancel::get_OKToolTipText, &ssOKCancel::put_OKToolTipText>(0x68030000, u"OKToolTipText",
+                                                                             u"OKToolTipTextNewValue"),
     method<&ssOKCancel::SetDefaultDefaults>(0x60030009, u"SetDefaultDefaults"),
 };
 static_assert(idsAndNamesAreUnique(members));
@@ -59,9 +59,14 @@ void ssOKCancel::WriteProperties(PropertyBag& PropBag) {
 
 bool ssOKCancel::KeyPress(Integer& KeyAscii) {
     switch (KeyAscii) {
-    case Enter: cmdOK_Click(); return true; // also while OK is disabled
-    case Escape: cmdCancel_Click(); return true;
-    default: return false;
+    case Enter:
+        cmdOK_Click();
+        return true; // also while OK is disabled
+    case Escape:
+        cmdCancel_Click();
+        return true;
+    default:
+        return false;
     }
 }
 

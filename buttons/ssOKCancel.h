@@ -44,6 +44,7 @@ private:
     void cmdOK_Click();
     void cmdCancel_Click();
 
+    // clang-format off
     SSPanel panelCmdOK{userControl, {
         .Name = u"panelCmdOK", .Left = 0, .Top = 0, .Width = 1455, .Height = 1695,
         .BackColor = colours::LightGrey, .ForeColor = colours::WindowText,
@@ -60,6 +61,7 @@ private:
         .BackColor = colours::LightGrey, .Font = {.Name = u"Comic Sans MS", .Size = 12, .Italic = true},
         .Cancel = true, .TabIndex = 1},
         calls<&ssOKCancel::cmdCancel_Click>(this)};
+    // clang-format on
 };
 
 } // namespace zilvo

@@ -8,12 +8,14 @@ Control::Control(ComponentModule& module, const UserControl::Design& design) noe
 template <class Body>
 Status Control::edge(const char* call, ErrorInfo* error, const Body& body) noexcept {
     const Ref<Object> alive(*this);
-    return atTheEdge(error, [&] { return toUtf8(description().name) + "." + call; }, body);
+    return atTheEdge(
+        error, [&] { return toUtf8(description().name) + "." + call; }, body);
 }
 
 void Control::require(bool legal) const {
     if (legal) return;
-    constexpr std::array stages = {"has no site", "is not yet new or loaded", "has no size yet", "is live", "is closed"};
+    constexpr std::array stages = {"has no site", "is not yet new or loaded", "has no size yet", "is live",
+                                   "is closed"};
     throw Failure(Status::UnexpectedCall,
                   std::string("the call is not legal: the control ") + stages[static_cast<std::size_t>(stage_)]);
 }

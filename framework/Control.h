@@ -49,7 +49,7 @@ private:
     friend class EmbeddedControl;
     friend class UserControl;
     template <class T>
-    friend Ref<T> createControl(ComponentModule& module);
+    friend Ref<T> createObject(ComponentModule& module);
 
     enum class Stage : std::uint8_t { Created, Sited, Placed, Live, Closed };
 
@@ -61,12 +61,13 @@ private:
     Stage stage_ = Stage::Created;
 };
 
-/// A fresh instance: its children exist, then Initialize runs. Fails as Initialize does, leaving nothing behind.
+/// A fresh instance of a class; of a control its children exist, then Initialize runs. Fails as Initialize does,
+/// leaving nothing behind.
 template <class T>
-Ref<T> createControl(ComponentModule& module) {
-    Ref<T> control(*std::make_unique<T>(module).release());
-    static_cast<Control&>(*control).Initialize();
-    return control;
+Ref<T> createObject(ComponentModule& module) {
+    Ref<T> object(*std::make_unique<T>(module).release());
+    if constexpr (std::is_base_of_v<Control, T>) static_cast<Control&>(*object).Initialize();
+    return object;
 }
 
 } // namespace zilvo

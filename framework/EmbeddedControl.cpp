@@ -44,8 +44,11 @@ const ClassEntry& entryOf(const Control& outer, StringView className) {
 
 EmbeddedControl::EmbeddedControl(Control& outer, Container& container, const Design& design,
                                  std::initializer_list<EmbeddedEvent> events)
-    : Widget(container, placementOf(design)), outerSurface_(outer.userControl), events_(events),
-      ambient_(std::make_unique<OuterAmbient>(outerSurface_)), extender_(std::make_unique<WidgetExtender>(*this)),
+    : Widget(container, placementOf(design)),
+      outerSurface_(outer.userControl),
+      events_(events),
+      ambient_(std::make_unique<OuterAmbient>(outerSurface_)),
+      extender_(std::make_unique<WidgetExtender>(*this)),
       inner_(entryOf(outer, design.Class.value).create(outer.module())),
       description_{inner_->description().name, {}, &commonMembers} {
     ErrorInfo error;
@@ -80,10 +83,10 @@ void EmbeddedControl::Put(MemberId id, const Variant& value) {
     throwUnlessOk(inner_->Invoke(id, Access::Put, {&argument, 1}, nullptr, &error), error);
 }
 
-Variant EmbeddedControl::Call(MemberId id, std::span<Variant> arguments) {
+Variant EmbeddedControl::Call(MemberId id, Variant argument) {
     Variant result;
     ErrorInfo error;
-    throwUnlessOk(inner_->Invoke(id, Access::Method, arguments, &result, &error), error);
+    throwUnlessOk(inner_->Invoke(id, Access::Method, {&argument, 1}, &result, &error), error);
     return result;
 }
 
@@ -121,7 +124,7 @@ void EmbeddedControl::showPopup(Menu& root) {
 
 void EmbeddedControl::Event(Long number, std::span<Variant> arguments) {
     for (const EmbeddedEvent& event : events_)
-        if (event.number == number) event.handler(arguments);
+        if (event.number == number) return event.handler(arguments); // which may destroy the outer control
 }
 
 } // namespace zilvo

@@ -42,15 +42,14 @@ public:
     /// Calls by member id, and late-bound by name. Arguments that are references are passed on as they are.
     Variant Get(MemberId id);
     void Put(MemberId id, const Variant& value);
-    Variant Call(MemberId id, std::span<Variant> arguments);
+    Variant Call(MemberId id, Variant argument);
     Variant Get(StringView memberName) { return platform::get(*inner_, memberName); }
     void Put(StringView memberName, const Variant& value) { platform::put(*inner_, memberName, value); }
 
-    /// An ambient property that the inner control sees has changed.
-    void ambientChanged(StringView name);
-
     const ClassDescription& description() const noexcept override { return description_; }
     Surface* embeddedSurface() noexcept override { return &control().surface(); }
+    Described* embeddedMembers() noexcept override { return inner_.get(); }
+    void ambientChanged(StringView name) override;
     void paint(Painter& /*painter*/) const override {} // the inner surface draws itself
 
 private:

@@ -134,11 +134,16 @@ inline constexpr std::array membersOf = {
 
 inline constexpr EnumerationDescription gameCardButtonPossibilities{
     u"GameCardButtonPossibilities", "{4C28F0C1-485C-4F13-AD5C-FD6F35744D01}"_guid,
-    membersOf<GameCardButtonPossibilities::theCardsToDiscardTrayWasSelected, GameCardButtonPossibilities::theCardsToTableAreaWasSelected, GameCardButtonPossibilities::theCardsToShoeWasSelected>};
+    membersOf<GameCardButtonPossibilities::theCardsToDiscardTrayWasSelected,
+              GameCardButtonPossibilities::theCardsToTableAreaWasSelected,
+              GameCardButtonPossibilities::theCardsToShoeWasSelected>};
 
 inline constexpr EnumerationDescription genericCardShufflePossibilities{
     u"GenericCardShufflePossibilities", "{4E32E0A1-5CFD-4A5E-8014-8C793C716B0C}"_guid,
-    membersOf<GenericCardShufflePossibilities::noGenericCardShuffle, GenericCardShufflePossibilities::StripShuffleGeneric, GenericCardShufflePossibilities::StraightThruGeneric, GenericCardShufflePossibilities::SMBoxShuffleGeneric, GenericCardShufflePossibilities::RandomShuffleGeneric>};
+    membersOf<
+        GenericCardShufflePossibilities::noGenericCardShuffle, GenericCardShufflePossibilities::StripShuffleGeneric,
+        GenericCardShufflePossibilities::StraightThruGeneric, GenericCardShufflePossibilities::SMBoxShuffleGeneric,
+        GenericCardShufflePossibilities::RandomShuffleGeneric>};
 
 inline constexpr EnumerationDescription plusMinusPossibilities{
     u"PlusMinusPossibilities", "{CEB3A9CC-128D-4C46-98C8-8AB36031D4CC}"_guid,
@@ -146,23 +151,43 @@ inline constexpr EnumerationDescription plusMinusPossibilities{
 
 inline constexpr EnumerationDescription gOButtonShapePossibilities{
     u"GOButtonShapePossibilities", "{17145F17-F5A6-4C79-B845-40FAB525C47C}"_guid,
-    membersOf<GOButtonShapePossibilities::GOButtonIsARectangle, GOButtonShapePossibilities::GOButtonIsSquare, GOButtonShapePossibilities::GOButtonIsAnOval, GOButtonShapePossibilities::GOButtonIsACircle, GOButtonShapePossibilities::GOButtonIsARoundedRectangle, GOButtonShapePossibilities::GOButtonIsARoundedSquare>};
+    membersOf<GOButtonShapePossibilities::GOButtonIsARectangle, GOButtonShapePossibilities::GOButtonIsSquare,
+              GOButtonShapePossibilities::GOButtonIsAnOval, GOButtonShapePossibilities::GOButtonIsACircle,
+              GOButtonShapePossibilities::GOButtonIsARoundedRectangle,
+              GOButtonShapePossibilities::GOButtonIsARoundedSquare>};
 
 inline constexpr EnumerationDescription seatSelectionPossibilities{
     u"SeatSelectionPossibilities", "{177A818D-CA0B-423C-8CCF-7F7EF4842AE1}"_guid,
-    membersOf<SeatSelectionPossibilities::noSeatWasSelected, SeatSelectionPossibilities::Seat1WasSelected, SeatSelectionPossibilities::Seat2WasSelected, SeatSelectionPossibilities::Seat3WasSelected, SeatSelectionPossibilities::Seat4WasSelected, SeatSelectionPossibilities::Seat5WasSelected, SeatSelectionPossibilities::Seat6WasSelected, SeatSelectionPossibilities::Seat7WasSelected, SeatSelectionPossibilities::Seat8WasSelected, SeatSelectionPossibilities::Seat9WasSelected, SeatSelectionPossibilities::Seat10WasSelected>};
+    membersOf<SeatSelectionPossibilities::noSeatWasSelected, SeatSelectionPossibilities::Seat1WasSelected,
+              SeatSelectionPossibilities::Seat2WasSelected, SeatSelectionPossibilities::Seat3WasSelected,
+              SeatSelectionPossibilities::Seat4WasSelected, SeatSelectionPossibilities::Seat5WasSelected,
+              SeatSelectionPossibilities::Seat6WasSelected, SeatSelectionPossibilities::Seat7WasSelected,
+              SeatSelectionPossibilities::Seat8WasSelected, SeatSelectionPossibilities::Seat9WasSelected,
+              SeatSelectionPossibilities::Seat10WasSelected>};
 
 inline constexpr EnumerationDescription seatSpreadPossibilities{
     u"SeatSpreadPossibilities", "{8A15E07D-6EEB-459D-9411-03521488E56E}"_guid,
-    membersOf<SeatSpreadPossibilities::noSpreadSeats, SeatSpreadPossibilities::SpreadToSeat1Requested, SeatSpreadPossibilities::SpreadToSeat2Requested, SeatSpreadPossibilities::SpreadToSeat3Requested, SeatSpreadPossibilities::SpreadToSeat4Requested, SeatSpreadPossibilities::SpreadToSeat5Requested, SeatSpreadPossibilities::SpreadToSeat6Requested, SeatSpreadPossibilities::SpreadToSeat7Requested, SeatSpreadPossibilities::SpreadToSeat8Requested, SeatSpreadPossibilities::SpreadToSeat9Requested, SeatSpreadPossibilities::SpreadToSeat10Requested>};
+    membersOf<SeatSpreadPossibilities::noSpreadSeats, SeatSpreadPossibilities::SpreadToSeat1Requested,
+              SeatSpreadPossibilities::SpreadToSeat2Requested, SeatSpreadPossibilities::SpreadToSeat3Requested,
+              SeatSpreadPossibilities::SpreadToSeat4Requested, SeatSpreadPossibilities::SpreadToSeat5Requested,
+              SeatSpreadPossibilities::SpreadToSeat6Requested, SeatSpreadPossibilities::SpreadToSeat7Requested,
+              SeatSpreadPossibilities::SpreadToSeat8Requested, SeatSpreadPossibilities::SpreadToSeat9Requested,
+              SeatSpreadPossibilities::SpreadToSeat10Requested>};
 
 inline constexpr EnumerationDescription spinCounterPossibilities{
     u"SpinCounterPossibilities", "{D51661AE-FF2D-4C69-9AB3-F13242323A02}"_guid,
-    membersOf<SpinCounterPossibilities::LeftHandSpinCounter, SpinCounterPossibilities::RighHandSpinCounter, SpinCounterPossibilities::TopMountSpinCounter, SpinCounterPossibilities::BottomMountSpinCounter>};
+    membersOf<SpinCounterPossibilities::LeftHandSpinCounter, SpinCounterPossibilities::RighHandSpinCounter,
+              SpinCounterPossibilities::TopMountSpinCounter, SpinCounterPossibilities::BottomMountSpinCounter>};
 
 inline constexpr EnumerationDescription numberOfBlackjackDeckPossibilities{
     u"NumberOfBlackjackDeckPossibilities", "{C900E006-F00E-4611-A0C8-082DFCA73415}"_guid,
-    membersOf<NumberOfBlackjackDeckPossibilities::BJZeroDecks, NumberOfBlackjackDeckPossibilities::BJOneDeck, NumberOfBlackjackDeckPossibilities::BJTwoDecks, NumberOfBlackjackDeckPossibilities::BJThreeDecks, NumberOfBlackjackDeckPossibilities::BJFourDecks, NumberOfBlackjackDeckPossibilities::BJFiveDecks, NumberOfBlackjackDeckPossibilities::BJSixDecks, NumberOfBlackjackDeckPossibilities::BJSevenDecks, NumberOfBlackjackDeckPossibilities::BJEightDecks, NumberOfBlackjackDeckPossibilities::BJNineDecks, NumberOfBlackjackDeckPossibilities::BJTenDecks, NumberOfBlackjackDeckPossibilities::BJElevenDecks, NumberOfBlackjackDeckPossibilities::BJTwelveDecks>};
+    membersOf<NumberOfBlackjackDeckPossibilities::BJZeroDecks, NumberOfBlackjackDeckPossibilities::BJOneDeck,
+              NumberOfBlackjackDeckPossibilities::BJTwoDecks, NumberOfBlackjackDeckPossibilities::BJThreeDecks,
+              NumberOfBlackjackDeckPossibilities::BJFourDecks, NumberOfBlackjackDeckPossibilities::BJFiveDecks,
+              NumberOfBlackjackDeckPossibilities::BJSixDecks, NumberOfBlackjackDeckPossibilities::BJSevenDecks,
+              NumberOfBlackjackDeckPossibilities::BJEightDecks, NumberOfBlackjackDeckPossibilities::BJNineDecks,
+              NumberOfBlackjackDeckPossibilities::BJTenDecks, NumberOfBlackjackDeckPossibilities::BJElevenDecks,
+              NumberOfBlackjackDeckPossibilities::BJTwelveDecks>};
 
 inline constexpr EnumerationDescription objectWidthPossibilities{
     u"ObjectWidthPossibilities", "{BBA21772-7971-4120-B016-DF707D2536DA}"_guid,
@@ -170,7 +195,12 @@ inline constexpr EnumerationDescription objectWidthPossibilities{
 
 inline constexpr EnumerationDescription casinoDeckDefaults{
     u"CasinoDeckDefaults", "{42995830-3A55-47AC-BF8D-62031FB2078A}"_guid,
-    membersOf<CasinoDeckDefaults::deckDefaultResetDecks, CasinoDeckDefaults::deckdefaultAtlanticCity, CasinoDeckDefaults::deckdefaultLasVegasStrip, CasinoDeckDefaults::deckdefaultLasVegasDowntown, CasinoDeckDefaults::deckdefaultReno, CasinoDeckDefaults::deckdefaultTahoe, CasinoDeckDefaults::deckdefaultLaughlin, CasinoDeckDefaults::deckdefaultRiverBoats, CasinoDeckDefaults::deckdefaultCruiseShips, CasinoDeckDefaults::deckdefaultAustrailia, CasinoDeckDefaults::deckdefaultEurope>};
+    membersOf<CasinoDeckDefaults::deckDefaultResetDecks, CasinoDeckDefaults::deckdefaultAtlanticCity,
+              CasinoDeckDefaults::deckdefaultLasVegasStrip, CasinoDeckDefaults::deckdefaultLasVegasDowntown,
+              CasinoDeckDefaults::deckdefaultReno, CasinoDeckDefaults::deckdefaultTahoe,
+              CasinoDeckDefaults::deckdefaultLaughlin, CasinoDeckDefaults::deckdefaultRiverBoats,
+              CasinoDeckDefaults::deckdefaultCruiseShips, CasinoDeckDefaults::deckdefaultAustrailia,
+              CasinoDeckDefaults::deckdefaultEurope>};
 
 } // namespace describing
 
@@ -207,16 +237,11 @@ constexpr const EnumerationDescription& descriptionOf(CasinoDeckDefaults) noexce
 
 /// All ten, in published order.
 inline constexpr std::array<const EnumerationDescription*, 10> enumerations = {
-    &describing::gameCardButtonPossibilities,
-    &describing::genericCardShufflePossibilities,
-    &describing::plusMinusPossibilities,
-    &describing::gOButtonShapePossibilities,
-    &describing::seatSelectionPossibilities,
-    &describing::seatSpreadPossibilities,
-    &describing::spinCounterPossibilities,
-    &describing::numberOfBlackjackDeckPossibilities,
-    &describing::objectWidthPossibilities,
-    &describing::casinoDeckDefaults,
+    &describing::gameCardButtonPossibilities, &describing::genericCardShufflePossibilities,
+    &describing::plusMinusPossibilities,      &describing::gOButtonShapePossibilities,
+    &describing::seatSelectionPossibilities,  &describing::seatSpreadPossibilities,
+    &describing::spinCounterPossibilities,    &describing::numberOfBlackjackDeckPossibilities,
+    &describing::objectWidthPossibilities,    &describing::casinoDeckDefaults,
 };
 
 } // namespace zilvo

@@ -2,7 +2,9 @@
 
 #include "framework/Platform.h"
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <vector>
 
 namespace zilvo {
@@ -19,13 +21,16 @@ public:
     explicit Event(Object& owner) noexcept : owner_(owner) {}
     Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
-    ~Event() = default;
+    ~Event() {
+        for (const Ref<Slot>& slot : slots_)
+            slot->eventEnds();
+    }
 
     /// The handler stays attached as long as the connection. An empty one fails with InvalidPropertyValue.
     Connection attach(Handler handler) {
         if (!handler) throw Failure(Status::InvalidPropertyValue, "an event handler cannot be empty");
-        if (raising_ == 0) sweep();
-        slots_.emplace_back(*std::make_unique<Slot>(owner_.module(), std::move(handler)).release());
+        if (state_.raising == 0) sweep();
+        slots_.emplace_back(*std::make_unique<Slot>(owner_.module(), state_, std::move(handler)).release());
         return Connection(slots_.back());
     }
 
@@ -36,38 +41,28 @@ public:
         const Ref<Object> alive(owner_);
         const Raise raise(*this);
         const std::size_t attached = slots_.size();
-        for (std::size_t i = 0; i < attached; ++i) {
-            Slot& slot = *slots_[i];
-            if (slot.isConnected())
-                slot.run(arguments...);
-            else
-                swept_ = false;
-        }
+        for (std::size_t i = 0; i < attached; ++i)
+            if (Slot& slot = *slots_[i]; slot.isConnected()) slot.handler(arguments...);
     }
 
 private:
-    class Slot final : public EventSlot {
-    public:
-        Slot(ComponentModule& module, Handler handler) : EventSlot(module), handler_(std::move(handler)) {}
-        void run(Arguments&... arguments) {
-            const Running running(*this);
-            handler_(arguments...);
-        }
+    struct Slot final : EventSlot {
+        Slot(ComponentModule& module, EventState& event, Handler attached)
+            : EventSlot(module, event), handler(std::move(attached)) {}
+        /// Empty before what it holds is let go of, which may come back here.
+        void forgetHandler() noexcept override { const Handler gone = std::exchange(handler, nullptr); }
 
-    private:
-        void forgetHandler() noexcept override { handler_ = nullptr; }
-
-        Handler handler_;
+        Handler handler;
     };
 
-    /// While one is on, no slot is taken out of the list.
+    /// While one is on, no slot leaves the list and no handler goes away.
     class Raise {
     public:
-        explicit Raise(Event& event) noexcept : event_(event) { ++event_.raising_; }
+        explicit Raise(Event& event) noexcept : event_(event) { ++event_.state_.raising; }
         Raise(const Raise&) = delete;
         Raise& operator=(const Raise&) = delete;
         ~Raise() {
-            if (--event_.raising_ == 0 && !event_.swept_) event_.sweep();
+            if (--event_.state_.raising == 0 && event_.state_.hasDetached) event_.sweep();
         }
 
     private:
@@ -75,14 +70,20 @@ private:
     };
 
     void sweep() noexcept {
-        std::erase_if(slots_, [](const Ref<Slot>& slot) { return !slot->isConnected(); });
-        swept_ = true;
+        if (!std::exchange(state_.hasDetached, false)) return;
+        // Out of the list before what the handlers hold is let go of, which may come back here.
+        std::vector<Ref<Slot>> detached;
+        const auto end = std::stable_partition(slots_.begin(), slots_.end(),
+                                               [](const Ref<Slot>& slot) { return slot->isConnected(); });
+        std::move(end, slots_.end(), std::back_inserter(detached));
+        slots_.erase(end, slots_.end());
+        for (const Ref<Slot>& slot : detached)
+            slot->eventEnds();
     }
 
     Object& owner_;
+    EventState state_;
     std::vector<Ref<Slot>> slots_;
-    unsigned raising_ = 0;
-    bool swept_ = true;
 };
 
 /// An argument of an event: its published name and, for a Long that carries one, its enumeration.

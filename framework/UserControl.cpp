@@ -1,7 +1,6 @@
 #include "framework/UserControl.h"
 
 #include "framework/Control.h"
-#include "framework/EmbeddedControl.h"
 
 #include <cmath>
 
@@ -44,8 +43,13 @@ private:
 };
 
 UserControl::UserControl(Control& owner, const Design& design) noexcept
-    : owner_(owner), fontDesign_(design.Font), width_(design.Width), height_(design.Height),
-      backColor_(design.BackColor), foreColor_(design.ForeColor), scaleMode_(design.ScaleMode) {}
+    : owner_(owner),
+      fontDesign_(design.Font),
+      width_(design.Width),
+      height_(design.Height),
+      backColor_(design.BackColor),
+      foreColor_(design.ForeColor),
+      scaleMode_(design.ScaleMode) {}
 
 UserControl::~UserControl() = default;
 
@@ -145,7 +149,7 @@ bool UserControl::surfaceKeyPress(Integer& keyAscii) {
 
 void UserControl::tellEmbedded(StringView ambientName) {
     for (Widget& widget : *this)
-        if (auto* embedded = dynamic_cast<EmbeddedControl*>(&widget)) embedded->ambientChanged(ambientName);
+        widget.ambientChanged(ambientName);
 }
 
 const ClassDescription& UserControl::description() const noexcept {

@@ -4,6 +4,12 @@
 #include "framework/Enumerations.h"
 #include "framework/Identity.h"
 #include "platform/component/ClassFactory.h"
+#include "seats/PlayerButtons.h"
+#include "seats/SeatCheckBoxes.h"
+#include "seats/SitDownButton.h"
+#include "seats/SpreadSeatButtons.h"
+#include "seats/ZilvoButtonGoodies.h"
+#include "seats/paneledSeatBoxes.h"
 
 namespace zilvo {
 
@@ -15,7 +21,7 @@ ComponentModule& libraryModule() noexcept;
 /// A fresh instance of a class of the library: `create<ssOKCancel>()`. Fails as the class's Initialize does.
 template <class T>
 Ref<T> create() {
-    return createControl<T>(libraryModule());
+    return createObject<T>(libraryModule());
 }
 
 } // namespace zilvo

@@ -9,8 +9,8 @@ void ClassFactory::Release() noexcept {
 }
 
 Status ClassFactory::CreateInstance(Ref<Object>& instance, ErrorInfo* error) noexcept {
-    return atTheEdge(error, [&] { return toUtf8(entry_.identity.name); },
-                     [&] { instance = entry_.create(lock_.module()); });
+    return atTheEdge(
+        error, [&] { return toUtf8(entry_.identity.name); }, [&] { instance = entry_.create(lock_.module()); });
 }
 
 Status getClassObject(ComponentModule& module, const Guid& classId, const Guid& interfaceId, void** object) noexcept {
@@ -22,12 +22,13 @@ Status getClassObject(ComponentModule& module, const Guid& classId, const Guid& 
     const ClassEntry* entry = module.description().find(classId);
     if (!entry) return Status::ClassNotAvailable;
     if (interfaceId != ClassFactoryInterface) return Status::NoInterface;
-    return atTheEdge(nullptr, [] { return std::string(); },
-                     [&] {
-                         auto factory = std::make_unique<ClassFactory>(module, *entry);
-                         factory->AddRef();
-                         *object = factory.release();
-                     });
+    return atTheEdge(
+        nullptr, [] { return std::string(); },
+        [&] {
+            auto factory = std::make_unique<ClassFactory>(module, *entry);
+            factory->AddRef();
+            *object = factory.release();
+        });
 }
 
 Status canUnloadNow(const ComponentModule& module) noexcept {

@@ -37,8 +37,7 @@ void checkIsWhole(const std::filesystem::path& file) {
     Elf64_Ehdr header{};
     read(0, header);
     if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0) refuse(file, "it is no loadable module");
-    if (header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_type != ET_DYN ||
-        header.e_phentsize != sizeof(Elf64_Phdr))
+    if (header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_type != ET_DYN || header.e_phentsize != sizeof(Elf64_Phdr))
         refuse(file, "it is a module of another kind");
     needs(header.e_shoff, std::uint64_t{header.e_shnum} * header.e_shentsize);
     for (unsigned i = 0; i < header.e_phnum; ++i) {
@@ -96,8 +95,7 @@ Ref<ClassFactory> LoadedComponent::classFactory(const Guid& classId) const {
 
 Ref<Object> LoadedComponent::create(StringView className) const {
     const ClassEntry* entry = description().find(className);
-    if (!entry)
-        throw Failure(Status::ClassNotAvailable, file_.string() + " has no class " + toUtf8(className));
+    if (!entry) throw Failure(Status::ClassNotAvailable, file_.string() + " has no class " + toUtf8(className));
     Ref<Object> instance;
     ErrorInfo error;
     throwUnlessOk(classFactory(entry->identity.classId)->CreateInstance(instance, &error), error);

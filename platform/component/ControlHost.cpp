@@ -6,8 +6,7 @@ namespace {
 
 HostedControl& controlOf(const Ref<Object>& object) {
     HostedControl* control = object->hostedControl();
-    if (!control)
-        throw Failure(Status::NoInterface, toUtf8(object->description().name) + " is no control");
+    if (!control) throw Failure(Status::NoInterface, toUtf8(object->description().name) + " is no control");
     return *control;
 }
 

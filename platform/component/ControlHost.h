@@ -22,7 +22,8 @@ public:
 
     /// Takes the control live: loaded with the settings, or new without; then sized, in twips, each side as the
     /// control has it unless given. Ambient properties and event handlers are set before.
-    void open(const PropertyBag* settings = nullptr, std::optional<Single> width = {}, std::optional<Single> height = {});
+    void open(const PropertyBag* settings = nullptr, std::optional<Single> width = {},
+              std::optional<Single> height = {});
 
     Object& object() const noexcept { return *object_; }
     HostedControl& control() const noexcept { return control_; }

@@ -10,7 +10,15 @@ void EventSlot::Release() noexcept {
 
 void EventSlot::disconnect() noexcept {
     connected_ = false;
-    if (running_ == 0) forgetHandler();
+    if (!event_) return;
+    event_->hasDetached = true;
+    if (event_->raising == 0) forgetHandler();
+}
+
+void EventSlot::eventEnds() noexcept {
+    connected_ = false;
+    event_ = nullptr;
+    forgetHandler();
 }
 
 } // namespace zilvo::platform

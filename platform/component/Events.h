@@ -15,10 +15,16 @@ protected:
     ~EventSink() = default;
 };
 
+/// What an event and the handlers attached to it know of each other.
+struct EventState {
+    unsigned raising = 0; ///< raises that are on; more than one when a handler raises again
+    bool hasDetached = false;
+};
+
 /// One handler attached to one event, shared by the event and whoever attached it.
 class EventSlot {
 public:
-    explicit EventSlot(ComponentModule& module) noexcept : lock_(module) {}
+    EventSlot(ComponentModule& module, EventState& event) noexcept : lock_(module), event_(&event) {}
     EventSlot(const EventSlot&) = delete;
     EventSlot& operator=(const EventSlot&) = delete;
 
@@ -26,34 +32,22 @@ public:
     void Release() noexcept;
 
     bool isConnected() const noexcept { return connected_; }
-    /// No raise that starts or goes on after this reaches the handler. What the handler holds is let go of at once,
-    /// or, when it is running, at its end.
+    /// No raise that starts or goes on after this reaches the handler. What the handler holds is let go of at once or,
+    /// while the event is being raised, at the end of that.
     void disconnect() noexcept;
+    /// The event goes away before the connection does.
+    void eventEnds() noexcept;
 
 protected:
     virtual ~EventSlot() = default;
     virtual void forgetHandler() noexcept = 0;
 
-    /// Marks the handler as running for the length of a scope.
-    class Running {
-    public:
-        explicit Running(EventSlot& slot) noexcept : slot_(slot) { ++slot_.running_; }
-        Running(const Running&) = delete;
-        Running& operator=(const Running&) = delete;
-        ~Running() {
-            if (--slot_.running_ == 0 && !slot_.connected_) slot_.forgetHandler();
-        }
-
-    private:
-        EventSlot& slot_;
-    };
-
 private:
     friend struct std::default_delete<EventSlot>;
 
     ModuleLock lock_;
+    EventState* event_;
     unsigned references_ = 0;
-    unsigned running_ = 0;
     bool connected_ = true;
 };
 

@@ -57,8 +57,8 @@ public:
     }
     Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
     template <class Derived>
-        requires std::is_convertible_v<Derived*, T*>
-    Ref(const Ref<Derived>& other) noexcept : Ref(other.get() ? Ref(*other.get()) : Ref()) {}
+    requires std::is_convertible_v<Derived*, T*> Ref(const Ref<Derived>& other)
+    noexcept : Ref(other.get() ? Ref(*other.get()) : Ref()) {}
     Ref& operator=(Ref other) noexcept {
         std::swap(object_, other.object_);
         return *this;

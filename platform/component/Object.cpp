@@ -17,9 +17,11 @@ std::string shown(MemberId id) {
 }
 
 template <class Which>
-[[gnu::cold, gnu::noinline]] Status unknownMember(const ClassDescription& description, const Which& which, ErrorInfo* error) noexcept {
-    return atTheEdge(error, [&] { return toUtf8(description.name); },
-                     [&] { throw Failure(Status::UnknownMember, "there is no " + shown(which)); });
+[[gnu::cold, gnu::noinline]] Status unknownMember(const ClassDescription& description, const Which& which,
+                                                  ErrorInfo* error) noexcept {
+    return atTheEdge(
+        error, [&] { return toUtf8(description.name); },
+        [&] { throw Failure(Status::UnknownMember, "there is no " + shown(which)); });
 }
 
 } // namespace
@@ -35,8 +37,9 @@ Status Object::invoke(const MemberDescription* member, const Which& which, Acces
                       Variant* result, ErrorInfo* error) noexcept {
     if (!member) return unknownMember(description(), which, error);
     const Ref<Object> alive(*this);
-    return atTheEdge(error, [&] { return toUtf8(description().name) + "." + toUtf8(member->name); },
-                     [&] { access(*this, *member, how, arguments, result); });
+    return atTheEdge(
+        error, [&] { return toUtf8(description().name) + "." + toUtf8(member->name); },
+        [&] { access(*this, *member, how, arguments, result); });
 }
 
 Status Object::Invoke(MemberId id, Access how, std::span<Variant> arguments, Variant* result,
@@ -50,23 +53,25 @@ Status Object::Invoke(StringView name, Access how, std::span<Variant> arguments,
 }
 
 Status Object::Connect(Long eventNumber, EventSink& sink, Connection& connection, ErrorInfo* error) noexcept {
-    return atTheEdge(error, [&] { return toUtf8(description().name); },
-                     [&] {
-                         for (const EventDescription& event : description().events)
-                             if (event.number == eventNumber) {
-                                 connection = event.connect(*this, sink);
-                                 return;
-                             }
-                         throw Failure(Status::UnknownMember, "there is no event " + std::to_string(eventNumber));
-                     });
+    return atTheEdge(
+        error, [&] { return toUtf8(description().name); },
+        [&] {
+            for (const EventDescription& event : description().events)
+                if (event.number == eventNumber) {
+                    connection = event.connect(*this, sink);
+                    return;
+                }
+            throw Failure(Status::UnknownMember, "there is no event " + std::to_string(eventNumber));
+        });
 }
 
 Status invoke(Described& target, StringView name, Access how, std::span<Variant> arguments, Variant* result,
               ErrorInfo* error) noexcept {
     const auto* member = target.description().find(name);
     if (!member) return unknownMember(target.description(), name, error);
-    return atTheEdge(error, [&] { return toUtf8(target.description().name) + "." + toUtf8(member->name); },
-                     [&] { access(target, *member, how, arguments, result); });
+    return atTheEdge(
+        error, [&] { return toUtf8(target.description().name) + "." + toUtf8(member->name); },
+        [&] { access(target, *member, how, arguments, result); });
 }
 
 namespace {
@@ -87,7 +92,8 @@ Variant get(Object& object, StringView name) {
 void put(Object& object, StringView name, const Variant& value) {
     const auto* member = object.description().find(name);
     Variant argument = value;
-    invokeOrThrow(object, name, member && member->accessor(Access::PutReference) ? Access::PutReference : Access::Put, {&argument, 1});
+    invokeOrThrow(object, name, member && member->accessor(Access::PutReference) ? Access::PutReference : Access::Put,
+                  {&argument, 1});
 }
 
 Variant call(Object& object, StringView name, std::span<Variant> arguments) {

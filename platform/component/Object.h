@@ -35,6 +35,10 @@ public:
 
     ComponentModule& module() const noexcept { return module_; }
 
+    /// Keeps the object alive for a scope. A member that goes on after it may have raised an event holds its object:
+    /// a handler may release the last reference that the caller has.
+    [[nodiscard]] Ref<Object> hold() noexcept { return Ref<Object>(*this); }
+
 protected:
     explicit Object(ComponentModule& module) noexcept : module_(module) { ++module_.objects_; }
     virtual ~Object() { --module_.objects_; }

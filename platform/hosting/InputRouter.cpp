@@ -63,13 +63,15 @@ std::vector<Surface*> surfacesFrom(Surface& root, const Widget* widget) {
 
 bool InputRouter::route(const InputEvent& event) {
     if (!root_.acceptsInput()) return false;
-    return std::visit([this](const auto& given) { return on(given); }, event);
+    const bool acted = std::visit([this](const auto& given) { return on(given); }, event);
+    focus(); // a widget that a handler has disabled or hidden hands the keyboard on
+    return acted;
 }
 
 bool InputRouter::on(const input::PointerDown& event) {
     pointer_ = event.at;
     if (popup_.isOpen()) {
-        popup_.pointerDown(event.at);
+        choose(popup_.pointerDown(event.at));
         return true;
     }
     const Hit hit = root_.hitTest(event.at);
@@ -81,7 +83,7 @@ bool InputRouter::on(const input::PointerDown& event) {
     if (!hit.widget->acceptsInput()) return false;
     if (event.button == input::LeftButton) {
         if (hit.widget->takesFocus()) setFocus(hit.widget);
-        if (captured_) captured_->setPressed(false);
+        letGo();
         captured_ = hit.widget;
         captured_->setPressed(true);
     }
@@ -93,6 +95,7 @@ bool InputRouter::on(const input::PointerMove& event) {
     pointer_ = event.at;
     if (popup_.isOpen()) {
         popup_.pointerMove(event.at);
+        root_.viewChanged();
         return true;
     }
     if (captured_) captured_->setPressed(root_.hitTest(event.at).widget == captured_);
@@ -106,16 +109,14 @@ bool InputRouter::on(const input::PointerUp& event) {
         return true;
     }
     if (event.button != input::LeftButton || !captured_) return false;
-    Widget* released = std::exchange(captured_, nullptr);
-    released->setPressed(false);
-    released->pointerUp();
+    Widget* released = letGo();
     return root_.hitTest(event.at).widget == released && click(released);
 }
 
 bool InputRouter::on(const input::KeyTyped& event) {
     if (popup_.isOpen()) {
         if (event.keyAscii == Enter) return choose(popup_.key(input::Key::Enter)), true;
-        if (event.keyAscii == Escape) return popup_.key(input::Key::Escape), true;
+        if (event.keyAscii == Escape) return choose(popup_.key(input::Key::Escape)), true;
         return choose(popup_.accessKey(static_cast<char16_t>(event.keyAscii))), true;
     }
     Widget* focused = focus();
@@ -140,13 +141,19 @@ bool InputRouter::on(const input::KeyDown& event) {
         return true;
     }
     switch (event.key) {
-    case Key::Tab: advanceFocus((event.shift & input::ShiftMask) == 0); return focus_ != nullptr;
-    case Key::Enter: return on(input::KeyTyped{Enter});
-    case Key::Escape: return on(input::KeyTyped{Escape});
-    case Key::Space: return on(input::KeyTyped{Space});
+    case Key::Tab:
+        advanceFocus((event.shift & input::ShiftMask) == 0);
+        return focus_ != nullptr;
+    case Key::Enter:
+        return on(input::KeyTyped{Enter});
+    case Key::Escape:
+        return on(input::KeyTyped{Escape});
+    case Key::Space:
+        return on(input::KeyTyped{Space});
     case Key::Character:
         return alt ? accessKey(event.character) : on(input::KeyTyped{static_cast<Integer>(event.character)});
-    default: return arrow(event.key);
+    default:
+        return arrow(event.key);
     }
 }
 
@@ -196,10 +203,27 @@ bool InputRouter::click(Widget* widget) {
     return true;
 }
 
+/// Carries out what the user chose in the pop-up, which shows something else now.
 bool InputRouter::choose(Menu* item) {
-    if (!item) return false;
+    root_.viewChanged();
+    if (!item || !PopupMenu::canChoose(*item)) return false;
     item->userClick();
     return true;
+}
+
+void InputRouter::showPopup(Menu& root) {
+    letGo();
+    popup_.open(root, pointer_);
+}
+
+/// Ends the capture; gives the widget that had it.
+Widget* InputRouter::letGo() {
+    Widget* held = std::exchange(captured_, nullptr);
+    if (held) {
+        held->setPressed(false);
+        held->pointerUp();
+    }
+    return held;
 }
 
 Widget* InputRouter::focus() {
@@ -227,7 +251,8 @@ void InputRouter::advanceFocus(bool forward) {
     });
     std::rotate(order.begin(), after == order.end() ? order.begin() : after, order.end());
     if (!order.empty() && order.front() == focus_) std::rotate(order.begin(), order.begin() + 1, order.end());
-    const auto stop = std::find_if(order.begin(), order.end(), [](const Widget* widget) { return widget->isTabStop(); });
+    const auto stop =
+        std::find_if(order.begin(), order.end(), [](const Widget* widget) { return widget->isTabStop(); });
     setFocus(stop == order.end() ? nullptr : *stop);
 }
 

@@ -19,7 +19,8 @@ public:
     /// The widget that has the keyboard; null for none. One that can no longer take input hands it on.
     Widget* focus();
 
-    void showPopup(Menu& root) { popup_.open(root, pointer_); }
+    /// The pop-up takes the pointer: what is held down is let go of without a click.
+    void showPopup(Menu& root);
     const PopupMenu& popup() const noexcept { return popup_; }
 
 private:
@@ -37,6 +38,7 @@ private:
     bool arrow(input::Key key);
     bool click(Widget* widget);
     bool choose(Menu* item);
+    Widget* letGo();
     bool press(Widget& widget, Point at);
 
     Surface& root_;

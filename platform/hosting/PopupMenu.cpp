@@ -96,8 +96,6 @@ Menu* PopupMenu::choose() {
 void PopupMenu::pointerMove(Point at) {
     const Place place = placeAt(at);
     if (place.panel == panels_.size()) return;
-    const bool alreadyOpen = place.panel + 1 < panels_.size() && panels_[place.panel].highlighted == place.item;
-    if (alreadyOpen) return;
     highlight(place.panel, place.item);
     openSubmenu();
 }
@@ -134,8 +132,12 @@ void PopupMenu::step(int by) {
 Menu* PopupMenu::key(input::Key key) {
     using input::Key;
     switch (key) {
-    case Key::Up: step(-1); break;
-    case Key::Down: step(1); break;
+    case Key::Up:
+        step(-1);
+        break;
+    case Key::Down:
+        step(1);
+        break;
     case Key::Right: {
         const auto depth = panels_.size();
         openSubmenu();
@@ -145,14 +147,17 @@ Menu* PopupMenu::key(input::Key key) {
     case Key::Left:
         if (panels_.size() > 1) panels_.pop_back();
         break;
-    case Key::Escape: panels_.pop_back(); break;
+    case Key::Escape:
+        panels_.pop_back();
+        break;
     case Key::Enter: {
         const auto depth = panels_.size();
         Menu* chosen = choose();
         if (panels_.size() > depth) step(1);
         return chosen;
     }
-    default: break;
+    default:
+        break;
     }
     return nullptr;
 }
@@ -190,8 +195,12 @@ void PopupMenu::paint(Painter& painter) const {
             if (item->get_Checked()) look::tick(painter, {area.left + 3 * Pixel, area.top + 3 * Pixel}, colour);
             const auto caption = item->get_Caption();
             paintCaption(painter, {area.left + CheckWidth, area.top, area.width - CheckWidth, area.height},
-                         {.designed = caption, .font = MenuFont, .colour = colour, .across = Alignment::Near,
-                          .greyed = !item->get_Enabled(), .wraps = false});
+                         {.designed = caption,
+                          .font = MenuFont,
+                          .colour = colour,
+                          .across = Alignment::Near,
+                          .greyed = !item->get_Enabled(),
+                          .wraps = false});
             if (!item->opensSubmenu()) continue;
             const Single x = area.right() - 10 * Pixel;
             const Single y = area.top + area.height / 2;

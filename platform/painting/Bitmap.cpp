@@ -33,9 +33,8 @@ Bitmap::Bitmap(int width, int height, Pixel ground)
 
 std::size_t Bitmap::offsetOf(int x, int y) const {
     if (x < 0 || x >= width_ || y < 0 || y >= height_)
-        throw Failure(Status::SubscriptOutOfRange, "the pixel " + std::to_string(x) + ", " +
-                                                       std::to_string(y) + " is outside a bitmap of " +
-                                                       std::to_string(width_) + " by " +
+        throw Failure(Status::SubscriptOutOfRange, "the pixel " + std::to_string(x) + ", " + std::to_string(y) +
+                                                       " is outside a bitmap of " + std::to_string(width_) + " by " +
                                                        std::to_string(height_));
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
 }

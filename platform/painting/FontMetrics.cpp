@@ -76,8 +76,7 @@ constexpr std::array Others{
 };
 
 std::int16_t advanceOf(char32_t point) noexcept {
-    if (point >= FirstPrintable && point < FirstPrintable + Advances.size())
-        return Advances[point - FirstPrintable];
+    if (point >= FirstPrintable && point < FirstPrintable + Advances.size()) return Advances[point - FirstPrintable];
     for (const Range& range : Others)
         if (point >= range.first && point <= range.last) return range.advance;
     return OtherAdvance;
@@ -94,8 +93,7 @@ Single textWidth(StringView text, const FontLook& font) noexcept {
     std::int64_t sum = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         char32_t point = text[i];
-        const bool paired =
-            (point & 0xFC00U) == 0xD800U && i + 1 < text.size() && (text[i + 1] & 0xFC00U) == 0xDC00U;
+        const bool paired = (point & 0xFC00U) == 0xD800U && i + 1 < text.size() && (text[i + 1] & 0xFC00U) == 0xDC00U;
         if (paired) point = 0x10000 + ((point - 0xD800) << 10) + (text[++i] - 0xDC00U);
         sum += advanceOf(point);
     }

@@ -172,8 +172,8 @@ std::string quotedFamily(StringView name) {
 }
 
 void appendFont(std::string& out, const FontLook& font) {
-    const auto known = std::find_if(Stacks.begin(), Stacks.end(),
-                                    [&](const Stack& stack) { return sameName(stack.name, font.name); });
+    const auto known =
+        std::find_if(Stacks.begin(), Stacks.end(), [&](const Stack& stack) { return sameName(stack.name, font.name); });
     int weight = std::clamp((font.weight + 50) / 100, 1, 9) * 100;
     out += " font-family=\"";
     if (known != Stacks.end()) {
@@ -208,8 +208,7 @@ Rectangle accessKeyRule(const TextRun& run) {
     const std::size_t at = run.underlined;
     const std::size_t units = isSurrogate(at, 0xD800U) && isSurrogate(at + 1, 0xDC00U) ? 2 : 1;
     const Single whole = textWidth(run.text, run.font);
-    const Single scale =
-        whole > 0 ? run.width / whole : Single{1}; // the letters are stretched to the run's width
+    const Single scale = whole > 0 ? run.width / whole : Single{1}; // the letters are stretched to the run's width
     const Single em = run.font.size * TwipsPerPoint;
     const Single thickness = std::max(std::floor(em / 14 / TwipsPerPixel), Single{1}) * TwipsPerPixel;
     return {run.origin.x + textWidth(run.text.substr(0, at), run.font) * scale, run.origin.y + TwipsPerPixel,
@@ -226,8 +225,7 @@ std::map<std::uint32_t, std::string> runsOf(const Bitmap& picture) {
             int end = x + 1;
             while (end < picture.width() && picture.at(end, y) == pixel)
                 ++end;
-            std::string& out =
-                runs[std::uint32_t{pixel.red} << 16U | std::uint32_t{pixel.green} << 8U | pixel.blue];
+            std::string& out = runs[std::uint32_t{pixel.red} << 16U | std::uint32_t{pixel.green} << 8U | pixel.blue];
             out += 'M';
             appendInteger(out, x);
             out += ' ';
@@ -306,8 +304,8 @@ void SvgPainter::line(Point from, Point to, Rgb colour, Single width) {
         const Single across = std::abs(to.x - from.x);
         const Single down = std::abs(to.y - from.y);
         if (!(across > 0) && !(down > 0)) return;
-        const Rectangle covered{std::min(from.x, to.x), std::min(from.y, to.y),
-                                across > 0 ? across : thickness, down > 0 ? down : thickness};
+        const Rectangle covered{std::min(from.x, to.x), std::min(from.y, to.y), across > 0 ? across : thickness,
+                                down > 0 ? down : thickness};
         return rectangle(covered, {.fill = colour, .stroke = {}}, 0);
     }
     out_ += "<path d=\"M";
@@ -332,8 +330,7 @@ void SvgPainter::text(const TextRun& run) {
         out_ += " lengthAdjust=\"spacingAndGlyphs\"";
     }
     out_.append(">").append(escaped(run.text)).append("</text>");
-    if (run.underlined < run.text.size())
-        rectangle(accessKeyRule(run), {.fill = run.colour, .stroke = {}}, 0);
+    if (run.underlined < run.text.size()) rectangle(accessKeyRule(run), {.fill = run.colour, .stroke = {}}, 0);
 }
 
 void SvgPainter::bitmap(const Bitmap& picture, const Rectangle& area) {
@@ -346,9 +343,7 @@ void SvgPainter::bitmap(const Bitmap& picture, const Rectangle& area) {
     appendInteger(out_, picture.height());
     out_ += "\" preserveAspectRatio=\"none\">";
     for (const auto& [colour, runs] : runsOf(picture)) {
-        const auto part = [value = colour](unsigned shift) {
-            return static_cast<std::uint8_t>(value >> shift);
-        };
+        const auto part = [value = colour](unsigned shift) { return static_cast<std::uint8_t>(value >> shift); };
         out_ += "<path";
         appendColour(out_, "fill", {part(16), part(8), part(0)});
         out_.append(" d=\"").append(runs).append("\"/>");

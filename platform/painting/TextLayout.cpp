@@ -110,8 +110,8 @@ Layout layOut(const Painter& painter, const Rectangle& area, const CaptionLook& 
     return layout;
 }
 
-void paintLines(Painter& painter, const Layout& layout, const Caption& caption, const FontLook& font,
-                Rgb colour, Single shift) {
+void paintLines(Painter& painter, const Layout& layout, const Caption& caption, const FontLook& font, Rgb colour,
+                Single shift) {
     const StringView text = caption.text;
     const Single baseline = ascent(font);
     for (const Line& line : layout.lines) {

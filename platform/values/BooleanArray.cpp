@@ -38,23 +38,11 @@ Long BooleanArray::UpperBound() const {
     return static_cast<Long>(std::int64_t{LowerBound()} + static_cast<std::int64_t>(elements_.size()) - 1);
 }
 
-Boolean& BooleanArray::At(Long index) {
-    return elements_[offsetOf(index)];
-}
-
-const Boolean& BooleanArray::At(Long index) const {
-    return elements_[offsetOf(index)];
-}
-
-std::size_t BooleanArray::offsetOf(Long index) const {
-    const auto offset = std::int64_t{index} - lowerBound_;
-    if (offset < 0 || offset >= static_cast<std::int64_t>(elements_.size())) {
-        const auto bounds = elements_.empty() ? std::string("an array without elements")
-                                              : "an array from " + std::to_string(lowerBound_) + " to " +
-                                                    std::to_string(UpperBound());
-        throw Failure(Status::SubscriptOutOfRange, "there is no element " + std::to_string(index) + " in " + bounds);
-    }
-    return static_cast<std::size_t>(offset);
+void BooleanArray::failOutside(Long index) const {
+    const auto bounds = elements_.empty()
+                            ? std::string("an array without elements")
+                            : "an array from " + std::to_string(lowerBound_) + " to " + std::to_string(UpperBound());
+    throw Failure(Status::SubscriptOutOfRange, "there is no element " + std::to_string(index) + " in " + bounds);
 }
 
 } // namespace zilvo::platform

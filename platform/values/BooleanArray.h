@@ -24,13 +24,18 @@ public:
     Long LowerBound() const;
     Long UpperBound() const;
     /// Fails with SubscriptOutOfRange outside the bounds.
-    Boolean& At(Long index);
-    const Boolean& At(Long index) const;
+    Boolean& At(Long index) { return elements_[offsetOf(index)]; }
+    const Boolean& At(Long index) const { return elements_[offsetOf(index)]; }
 
     friend bool operator==(const BooleanArray&, const BooleanArray&) = default;
 
 private:
-    std::size_t offsetOf(Long index) const;
+    std::size_t offsetOf(Long index) const {
+        const auto offset = static_cast<std::size_t>(std::int64_t{index} - lowerBound_);
+        if (offset >= elements_.size()) failOutside(index);
+        return offset;
+    }
+    [[noreturn]] void failOutside(Long index) const;
 
     Long lowerBound_ = 0;
     std::vector<Boolean> elements_;

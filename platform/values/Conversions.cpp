@@ -50,18 +50,25 @@ std::optional<double> parseNumber(StringView text) {
 
 double numberOf(const Variant& value, StringView what, Kind wanted) {
     switch (value.kind()) {
-    case Kind::Empty: return 0;
-    case Kind::Boolean: return isTrue(*value.find<Boolean>()) ? -1 : 0;
-    case Kind::Integer: return *value.find<Integer>();
-    case Kind::Long: return *value.find<Long>();
-    case Kind::Single: return static_cast<double>(*value.find<Single>());
-    case Kind::Colour: return std::bit_cast<Long>(value.find<Colour>()->value);
+    case Kind::Empty:
+        return 0;
+    case Kind::Boolean:
+        return isTrue(*value.find<Boolean>()) ? -1 : 0;
+    case Kind::Integer:
+        return *value.find<Integer>();
+    case Kind::Long:
+        return *value.find<Long>();
+    case Kind::Single:
+        return static_cast<double>(*value.find<Single>());
+    case Kind::Colour:
+        return std::bit_cast<Long>(value.find<Colour>()->value);
     case Kind::String:
         if (const auto number = parseNumber(*value.find<String>())) return *number;
         break;
     case Kind::Missing:
     case Kind::Font:
-    case Kind::BooleanArray: break;
+    case Kind::BooleanArray:
+        break;
     }
     fail(Status::TypeMismatch, value, what, wanted);
 }
@@ -119,17 +126,21 @@ String toString(const Variant& value, StringView what) {
     std::array<char, 32> out{};
     char* const end = out.data() + out.size();
     switch (value.kind()) {
-    case Kind::Empty: return {};
-    case Kind::Boolean: return isTrue(*value.find<Boolean>()) ? u"True" : u"False";
-    case Kind::Integer: return asText(out.data(), std::to_chars(out.data(), end, *value.find<Integer>()).ptr);
-    case Kind::Long: return asText(out.data(), std::to_chars(out.data(), end, *value.find<Long>()).ptr);
+    case Kind::Empty:
+        return {};
+    case Kind::Boolean:
+        return isTrue(*value.find<Boolean>()) ? u"True" : u"False";
+    case Kind::Integer:
+        return asText(out.data(), std::to_chars(out.data(), end, *value.find<Integer>()).ptr);
+    case Kind::Long:
+        return asText(out.data(), std::to_chars(out.data(), end, *value.find<Long>()).ptr);
     case Kind::Colour:
-        return asText(out.data(),
-                      std::to_chars(out.data(), end, std::bit_cast<Long>(value.find<Colour>()->value)).ptr);
+        return asText(out.data(), std::to_chars(out.data(), end, std::bit_cast<Long>(value.find<Colour>()->value)).ptr);
     case Kind::Single:
-        return asText(out.data(), std::to_chars(out.data(), end, *value.find<Single>(), std::chars_format::general,
-                                                7).ptr);
-    default: fail(Status::TypeMismatch, value, what, Kind::String);
+        return asText(out.data(),
+                      std::to_chars(out.data(), end, *value.find<Single>(), std::chars_format::general, 7).ptr);
+    default:
+        fail(Status::TypeMismatch, value, what, Kind::String);
     }
 }
 
@@ -170,16 +181,19 @@ Long roundToLong(Single value, StringView what) {
 std::string describe(const Variant& value) {
     const auto kind = toUtf8(nameOf(value.kind()));
     switch (value.kind()) {
-    case Kind::String: return "\"" + toUtf8(*value.find<String>()) + "\" (String)";
+    case Kind::String:
+        return "\"" + toUtf8(*value.find<String>()) + "\" (String)";
     case Kind::Empty:
-    case Kind::Missing: return "a value that is " + kind;
+    case Kind::Missing:
+        return "a value that is " + kind;
     case Kind::Font: {
         const FontRef& font = *value.find<FontRef>();
         return font ? "the font " + toUtf8(font->get_Name()) : "a font that is nothing";
     }
     case Kind::BooleanArray:
         return "an array of " + std::to_string(value.find<BooleanArray>()->size()) + " Booleans";
-    default: return toUtf8(toString(value)) + " (" + kind + ")";
+    default:
+        return toUtf8(toString(value)) + " (" + kind + ")";
     }
 }
 

@@ -4,10 +4,14 @@ namespace zilvo::platform {
 
 const char* nameOf(Access access) noexcept {
     switch (access) {
-    case Access::Get: return "get";
-    case Access::Put: return "put";
-    case Access::PutReference: return "putref";
-    case Access::Method: return "method";
+    case Access::Get:
+        return "get";
+    case Access::Put:
+        return "put";
+    case Access::PutReference:
+        return "putref";
+    case Access::Method:
+        return "method";
     }
     return "";
 }
@@ -31,8 +35,7 @@ namespace {
 
 const MemberDescription& memberOf(const Described& object, StringView name) {
     if (const auto* member = object.description().find(name)) return *member;
-    throw Failure(Status::UnknownMember,
-                  toUtf8(object.description().name) + " has no member named " + toUtf8(name));
+    throw Failure(Status::UnknownMember, toUtf8(object.description().name) + " has no member named " + toUtf8(name));
 }
 
 } // namespace

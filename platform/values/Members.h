@@ -166,8 +166,7 @@ private:
 /// An argument passed by reference: the very variable when the caller passed a reference to one of this kind,
 /// else a converted copy whose final value goes back to the caller.
 template <class T>
-    requires(!std::is_const_v<T>)
-class Argument<T&> {
+requires(!std::is_const_v<T>) class Argument<T&> {
 public:
     explicit Argument(Variant& source)
         : source_(source), variable_(source.findVariable<T>()), copy_(variable_ ? T{} : convert<T>(source)) {}
@@ -232,8 +231,8 @@ private:
     static void run(typename Of::Class& object, [[maybe_unused]] std::span<Variant> arguments,
                     [[maybe_unused]] Variant* result, std::index_sequence<I...>) {
         // Braces: the arguments convert from left to right.
-        [[maybe_unused]] typename Of::Arguments converted{
-            std::tuple_element_t<I, typename Of::Arguments>(arguments[I])...};
+        [[maybe_unused]]
+        typename Of::Arguments converted{std::tuple_element_t<I, typename Of::Arguments>(arguments[I])...};
         if constexpr (std::is_void_v<typename Of::Result>)
             (object.*Function)(std::get<I>(converted).pass()...);
         else if (auto given = toVariant((object.*Function)(std::get<I>(converted).pass()...)); result)

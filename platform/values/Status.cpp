@@ -7,26 +7,46 @@ namespace zilvo::platform {
 
 const char* nameOf(Status status) noexcept {
     switch (status) {
-    case Status::Ok: return "ok";
-    case Status::False: return "no";
-    case Status::NotImplemented: return "not implemented";
-    case Status::NoInterface: return "no such interface";
-    case Status::Failed: return "failed";
-    case Status::UnexpectedCall: return "unexpected call";
-    case Status::UnknownMember: return "unknown member";
-    case Status::ArgumentCount: return "argument count";
-    case Status::FileNotFound: return "file not found";
-    case Status::OutOfMemory: return "out of memory";
-    case Status::BadComponent: return "not a component";
-    case Status::InUse: return "in use";
-    case Status::ClassNotAvailable: return "class not available";
-    case Status::Overflow: return "overflow";
-    case Status::SubscriptOutOfRange: return "subscript out of range";
-    case Status::TypeMismatch: return "type mismatch";
-    case Status::MissingElement: return "missing element";
-    case Status::InvalidPropertyValue: return "invalid property value";
-    case Status::ReadOnlyProperty: return "read-only property";
-    case Status::WriteOnlyProperty: return "write-only property";
+    case Status::Ok:
+        return "ok";
+    case Status::False:
+        return "no";
+    case Status::NotImplemented:
+        return "not implemented";
+    case Status::NoInterface:
+        return "no such interface";
+    case Status::Failed:
+        return "failed";
+    case Status::UnexpectedCall:
+        return "unexpected call";
+    case Status::UnknownMember:
+        return "unknown member";
+    case Status::ArgumentCount:
+        return "argument count";
+    case Status::FileNotFound:
+        return "file not found";
+    case Status::OutOfMemory:
+        return "out of memory";
+    case Status::BadComponent:
+        return "not a component";
+    case Status::InUse:
+        return "in use";
+    case Status::ClassNotAvailable:
+        return "class not available";
+    case Status::Overflow:
+        return "overflow";
+    case Status::SubscriptOutOfRange:
+        return "subscript out of range";
+    case Status::TypeMismatch:
+        return "type mismatch";
+    case Status::MissingElement:
+        return "missing element";
+    case Status::InvalidPropertyValue:
+        return "invalid property value";
+    case Status::ReadOnlyProperty:
+        return "read-only property";
+    case Status::WriteOnlyProperty:
+        return "write-only property";
     }
     return "unknown status";
 }

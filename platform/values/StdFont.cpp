@@ -31,8 +31,12 @@ FontRef StdFont::make(const FontDesign& design) {
 }
 
 StdFont::StdFont(const FontDesign& design)
-    : name_(design.Name), size_(design.Size), weight_(design.Weight), italic_(design.Italic),
-      underline_(design.Underline), strikethrough_(design.Strikethrough) {}
+    : name_(design.Name),
+      size_(design.Size),
+      weight_(design.Weight),
+      italic_(design.Italic),
+      underline_(design.Underline),
+      strikethrough_(design.Strikethrough) {}
 
 template <class T>
 void StdFont::change(T& member, const T& value) {

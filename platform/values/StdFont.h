@@ -9,7 +9,7 @@ namespace zilvo::platform {
 /// A font as it is designed: part of a control's table of children.
 struct FontDesign {
     const char16_t* Name = u"MS Sans Serif";
-    Single Size = 8.25F; ///< points
+    Single Size = 8.25F;  ///< points
     Integer Weight = 400; ///< 400 normal, 700 bold, 900 heavy
     bool Italic = false;
     bool Underline = false;

@@ -66,17 +66,23 @@ bool equalByValue(const Variant& one, const Variant& other) {
     if (one.kind() != other.kind()) return false;
     switch (one.kind()) {
     case Kind::Empty:
-    case Kind::Missing: return true;
-    case Kind::Boolean: return toBoolean(one) == toBoolean(other);
-    case Kind::String: return *one.find<String>() == *other.find<String>();
-    case Kind::Colour: return *one.find<Colour>() == *other.find<Colour>();
-    case Kind::BooleanArray: return *one.find<BooleanArray>() == *other.find<BooleanArray>();
+    case Kind::Missing:
+        return true;
+    case Kind::Boolean:
+        return toBoolean(one) == toBoolean(other);
+    case Kind::String:
+        return *one.find<String>() == *other.find<String>();
+    case Kind::Colour:
+        return *one.find<Colour>() == *other.find<Colour>();
+    case Kind::BooleanArray:
+        return *one.find<BooleanArray>() == *other.find<BooleanArray>();
     case Kind::Font: {
         const FontRef& first = *one.find<FontRef>();
         const FontRef& second = *other.find<FontRef>();
         return first == second || (first && second && first->sameMembers(*second));
     }
-    default: return false;
+    default:
+        return false;
     }
 }
 

@@ -3,7 +3,9 @@
 #include "platform/values/BooleanArray.h"
 #include "platform/values/Kinds.h"
 
+#include <concepts>
 #include <memory>
+#include <type_traits>
 #include <variant>
 
 namespace zilvo::platform {
@@ -57,8 +59,9 @@ public:
     /// The variable that a reference of this kind refers to; null for a plain value or another kind.
     template <class T>
     T* findVariable() const noexcept {
-        if constexpr (std::same_as<T, Missing> || std::same_as<T, Colour>) {
-            return nullptr;
+        constexpr bool isEnumeration = std::is_enum_v<T> && !std::same_as<T, Boolean>;
+        if constexpr (isEnumeration || std::same_as<T, bool> || std::same_as<T, Missing> || std::same_as<T, Colour>) {
+            return nullptr; // there are no references to these
         } else {
             T* const* variable = std::get_if<T*>(&value_);
             return variable ? *variable : nullptr;

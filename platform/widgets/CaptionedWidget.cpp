@@ -18,8 +18,11 @@ const ClassDescription CaptionedWidget::captionedMembers{
     .name = u"CaptionedWidget", .members = members, .base = &commonMembers};
 
 CaptionedWidget::CaptionedWidget(Container& container, const Placement& place, const Appearance& appearance)
-    : Widget(container, place), caption_(appearance.caption), font_(surface(), appearance.font),
-      backColor_(appearance.backColor), foreColor_(appearance.foreColor) {}
+    : Widget(container, place),
+      caption_(appearance.caption),
+      font_(surface(), appearance.font),
+      backColor_(appearance.backColor),
+      foreColor_(appearance.foreColor) {}
 
 void CaptionedWidget::put_Caption(StringView newCaption) {
     caption_.set(newCaption);

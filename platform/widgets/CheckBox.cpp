@@ -12,11 +12,12 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 CheckBox::CheckBox(Container& container, const Design& design, ClickHandler click)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), value_(design.Value), mark_(design.Mark),
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
+      value_(design.Value),
+      mark_(design.Mark),
       click_(click) {}
 
-void CheckBox::put_Value(Integer newValue) {
-    if (newValue == value_) return;
+void CheckBox::change(Integer newValue) {
     if (newValue < Unchecked || newValue > Greyed)
         throw Failure(Status::InvalidPropertyValue,
                       platform::describe(*this, "Value") + " cannot be " + platform::describe(Variant(newValue)));
@@ -38,8 +39,13 @@ void CheckBox::paint(Painter& painter) const {
                        : value_ == Greyed ? look::CheckState::Greyed
                                           : look::CheckState::Clear;
     look::check(painter, area,
-                {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
-                 .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                {.caption = caption(),
+                 .font = font(),
+                 .foreColor = rgbOf(get_ForeColor()),
+                 .side = mark_,
+                 .enabled = get_Enabled(),
+                 .focused = isFocused(),
+                 .pressed = isPressed()},
                 state);
 }
 

@@ -35,7 +35,9 @@ public:
 
     /// 0, 1 or 2; anything else fails with InvalidPropertyValue.
     Integer get_Value() const noexcept { return value_; }
-    void put_Value(Integer newValue);
+    void put_Value(Integer newValue) {
+        if (newValue != value_) change(newValue);
+    }
 
     const ClassDescription& description() const noexcept override;
     bool takesFocus() const noexcept override { return true; }
@@ -45,6 +47,8 @@ public:
     void paint(Painter& painter) const override;
 
 private:
+    void change(Integer newValue);
+
     Integer value_;
     look::MarkSide mark_;
     ClickHandler click_;

@@ -52,7 +52,8 @@ void CommandButton::userClick() {
 }
 
 const ClassDescription& CommandButton::description() const noexcept {
-    static constexpr ClassDescription description{.name = u"CommandButton", .members = members, .base = &captionedMembers};
+    static constexpr ClassDescription description{
+        .name = u"CommandButton", .members = members, .base = &captionedMembers};
     return description;
 }
 
@@ -64,8 +65,7 @@ void CommandButton::paint(Painter& painter) const {
     Rectangle inner = area.inset(4 * TwipsPerPixel);
     if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};
     paintCaption(painter, inner,
-                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()),
-                  .greyed = !get_Enabled()});
+                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()), .greyed = !get_Enabled()});
     if (isFocused()) look::focus(painter, inner);
 }
 

@@ -18,16 +18,17 @@ public:
 
     /// The element; fails with MissingElement when there is none with that index.
     Kind& Item(Integer index) {
+        // Most arrays are numbered without gaps: looked for first where the index says.
+        const auto likely = static_cast<std::size_t>(index - elements_[0].index());
+        if (likely < Count && elements_[likely].index() == index) return elements_[likely];
         for (Kind& element : elements_)
             if (element.index() == index) return element;
-        throw Failure(Status::MissingElement,
-                      toUtf8(elements_[0].name()) + " has no element " + std::to_string(index));
+        throw Failure(Status::MissingElement, toUtf8(elements_[0].name()) + " has no element " + std::to_string(index));
     }
 
 private:
     template <class Parent, std::size_t... I, class... Handlers>
-    ControlArray(Parent& parent, const Design (&designs)[Count], std::index_sequence<I...>,
-                 const Handlers&... handlers)
+    ControlArray(Parent& parent, const Design (&designs)[Count], std::index_sequence<I...>, const Handlers&... handlers)
         : elements_{Kind(parent, designs[I], handlers...)...} {}
 
     std::array<Kind, Count> elements_;

@@ -5,8 +5,10 @@
 namespace zilvo::platform {
 
 Label::Label(Container& container, const Design& design)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), align_(design.Align),
-      transparent_(design.Transparent), sunken_(design.Sunken) {}
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
+      align_(design.Align),
+      transparent_(design.Transparent),
+      sunken_(design.Sunken) {}
 
 const ClassDescription& Label::description() const noexcept {
     static constexpr ClassDescription description{.name = u"Label", .members = {}, .base = &captionedMembers};
@@ -18,8 +20,12 @@ void Label::paint(Painter& painter) const {
     if (!transparent_) painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
     if (sunken_) look::sunken(painter, area);
     paintCaption(painter, sunken_ ? area.inset(TwipsPerPixel) : area,
-                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()), .across = align_,
-                  .down = Alignment::Near, .greyed = !get_Enabled()});
+                 {.designed = caption(),
+                  .font = font(),
+                  .colour = rgbOf(get_ForeColor()),
+                  .across = align_,
+                  .down = Alignment::Near,
+                  .greyed = !get_Enabled()});
 }
 
 } // namespace zilvo::platform

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <numbers>
 
 namespace zilvo::platform::look {
 
@@ -29,17 +31,32 @@ void bevel(Painter& painter, Rectangle area, Single thickness, Rgb upperLeft, Rg
     }
 }
 
+/// A disc whose upper left half has one colour and whose lower right half another.
+void disc(Painter& painter, const Rectangle& area, Rgb upperLeft, Rgb lowerRight) {
+    painter.ellipse(area, {.fill = lowerRight, .stroke = std::nullopt});
+    std::array<Point, 19> half{};
+    for (std::size_t i = 0; i < half.size(); ++i) {
+        const Single angle = std::numbers::pi_v<Single> * (0.75F + static_cast<Single>(i) / (half.size() - 1));
+        half[i] = {area.left + area.width / 2 * (1 + std::cos(angle)),
+                   area.top + area.height / 2 * (1 + std::sin(angle))};
+    }
+    painter.polygon(half, {.fill = upperLeft, .stroke = std::nullopt});
+}
+
 void captionBeside(Painter& painter, const Rectangle& area, const MarkedLook& look) {
     const Rectangle caption = partsOf(area, look.side).caption;
     const Rectangle text = paintCaption(painter, caption,
-                                        {.designed = look.caption, .font = look.font, .colour = look.foreColor,
-                                         .across = Alignment::Near, .greyed = !look.enabled});
+                                        {.designed = look.caption,
+                                         .font = look.font,
+                                         .colour = look.foreColor,
+                                         .across = Alignment::Near,
+                                         .greyed = !look.enabled});
     if (!look.focused) return;
     const Rectangle around = text.inset(-Pixel);
     const Single left = std::max(around.left, area.left);
     const Single top = std::max(around.top, area.top);
-    focus(painter, {left, top, std::min(around.right(), area.right()) - left,
-                    std::min(around.bottom(), area.bottom()) - top});
+    focus(painter,
+          {left, top, std::min(around.right(), area.right()) - left, std::min(around.bottom(), area.bottom()) - top});
 }
 
 } // namespace
@@ -109,11 +126,13 @@ MarkedParts partsOf(const Rectangle& area, MarkSide side) noexcept {
 
 void option(Painter& painter, const Rectangle& area, const MarkedLook& look, bool selected) {
     const Point corner = partsOf(area, look.side).mark;
-    const Rectangle disc{corner.x, corner.y, MarkSize, MarkSize};
-    const bool greyed = look.pressed || !look.enabled;
-    painter.ellipse(disc, {.fill = greyed ? Face : White, .stroke = Shadow});
-    painter.ellipse(disc.inset(Pixel), {.fill = std::nullopt, .stroke = look.enabled ? Black : Shadow});
-    if (selected) painter.ellipse(disc.inset(4 * Pixel), {.fill = look.enabled ? Black : Shadow, .stroke = std::nullopt});
+    const Rectangle mark{corner.x, corner.y, MarkSize, MarkSize};
+    const Rgb ground = look.pressed || !look.enabled ? Face : White;
+    disc(painter, mark, Shadow, White);
+    disc(painter, mark.inset(Pixel), Black, Light);
+    painter.ellipse(mark.inset(2 * Pixel), {.fill = ground, .stroke = std::nullopt});
+    if (selected)
+        painter.ellipse(mark.inset(4 * Pixel), {.fill = look.enabled ? Black : Shadow, .stroke = std::nullopt});
     captionBeside(painter, area, look);
 }
 
@@ -124,8 +143,7 @@ void check(Painter& painter, const Rectangle& area, const MarkedLook& look, Chec
     fill(painter, square, greyed ? Face : White);
     edges(painter, square, Shadow, White);
     edges(painter, square.inset(Pixel), Black, Light);
-    if (state != CheckState::Clear)
-        tick(painter, corner, look.enabled && state == CheckState::Ticked ? Black : Shadow);
+    if (state != CheckState::Clear) tick(painter, corner, look.enabled && state == CheckState::Ticked ? Black : Shadow);
     captionBeside(painter, area, look);
 }
 

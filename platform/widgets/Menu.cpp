@@ -18,7 +18,10 @@ Menu::Menu(Surface& surface, const Design& design)
     : Widget(surface, placementOf(design)), parent_(nullptr), caption_(design.Caption), checked_(design.Checked) {}
 
 Menu::Menu(Menu& parent, const Design& design, ClickHandler click)
-    : Widget(parent.container(), placementOf(design)), parent_(&parent), caption_(design.Caption), click_(click),
+    : Widget(parent.container(), placementOf(design)),
+      parent_(&parent),
+      caption_(design.Caption),
+      click_(click),
       checked_(design.Checked) {}
 
 void Menu::put_Caption(StringView newCaption) {

@@ -35,7 +35,7 @@ void OptionButton::select() {
 
 bool OptionButton::isTabStop() const noexcept {
     const OptionButton* selected = container().selectedOption;
-    return !selected || selected == this || !selected->acceptsInput();
+    return selected && selected->acceptsInput() ? selected == this : leadsGroup();
 }
 
 bool OptionButton::isInGroupWith(const Widget& other) const noexcept {
@@ -43,7 +43,8 @@ bool OptionButton::isInGroupWith(const Widget& other) const noexcept {
 }
 
 const ClassDescription& OptionButton::description() const noexcept {
-    static constexpr ClassDescription description{.name = u"OptionButton", .members = members, .base = &captionedMembers};
+    static constexpr ClassDescription description{
+        .name = u"OptionButton", .members = members, .base = &captionedMembers};
     return description;
 }
 
@@ -51,8 +52,13 @@ void OptionButton::paint(Painter& painter) const {
     const Rectangle area{0, 0, bounds().width, bounds().height};
     painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
     look::option(painter, area,
-                 {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
-                  .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                 {.caption = caption(),
+                  .font = font(),
+                  .foreColor = rgbOf(get_ForeColor()),
+                  .side = mark_,
+                  .enabled = get_Enabled(),
+                  .focused = isFocused(),
+                  .pressed = isPressed()},
                  get_Value());
 }
 

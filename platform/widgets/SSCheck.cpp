@@ -12,7 +12,10 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 SSCheck::SSCheck(Container& container, const Design& design, ClickHandler click)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), value_(design.Value), mark_(design.Mark), click_(click) {}
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
+      value_(design.Value),
+      mark_(design.Mark),
+      click_(click) {}
 
 void SSCheck::put_Value(bool newValue) {
     if (value_ == newValue) return;
@@ -28,7 +31,8 @@ void SSCheck::userClick() {
 }
 
 const ClassDescription& SSCheck::description() const noexcept {
-    static constexpr ClassDescription description{.name = u"Threed.SSCheck", .members = members, .base = &captionedMembers};
+    static constexpr ClassDescription description{
+        .name = u"Threed.SSCheck", .members = members, .base = &captionedMembers};
     return description;
 }
 
@@ -36,8 +40,13 @@ void SSCheck::paint(Painter& painter) const {
     const Rectangle area{0, 0, bounds().width, bounds().height};
     painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
     look::check(painter, area,
-                {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
-                 .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                {.caption = caption(),
+                 .font = font(),
+                 .foreColor = rgbOf(get_ForeColor()),
+                 .side = mark_,
+                 .enabled = get_Enabled(),
+                 .focused = isFocused(),
+                 .pressed = isPressed()},
                 value_ ? look::CheckState::Ticked : look::CheckState::Clear);
 }
 

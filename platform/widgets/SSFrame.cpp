@@ -19,9 +19,13 @@ void SSFrame::paint(Painter& painter) const {
     // The border runs through the middle of the caption and leaves two pixels on either side of it.
     const Single indent = 9 * TwipsPerPixel;
     const Single margin = 2 * TwipsPerPixel;
-    const CaptionLook look{.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()),
-                              .across = Alignment::Near, .down = Alignment::Near, .greyed = !get_Enabled(),
-                              .wraps = false};
+    const CaptionLook look{.designed = caption(),
+                           .font = font(),
+                           .colour = rgbOf(get_ForeColor()),
+                           .across = Alignment::Near,
+                           .down = Alignment::Near,
+                           .greyed = !get_Enabled(),
+                           .wraps = false};
     const Rectangle line{indent, 0, area.width - indent, lineHeight(font())};
     const Rectangle text = paintCaption(painter, line, look);
     const Single top = caption().empty() ? 0 : lineHeight(font()) / 2;

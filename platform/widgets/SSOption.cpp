@@ -31,7 +31,7 @@ void SSOption::userClick() {
 
 bool SSOption::isTabStop() const noexcept {
     const SSOption* selected = container().selectedSSOption;
-    return !selected || selected == this || !selected->acceptsInput();
+    return selected && selected->acceptsInput() ? selected == this : leadsGroup();
 }
 
 bool SSOption::isInGroupWith(const Widget& other) const noexcept {
@@ -39,7 +39,8 @@ bool SSOption::isInGroupWith(const Widget& other) const noexcept {
 }
 
 const ClassDescription& SSOption::description() const noexcept {
-    static constexpr ClassDescription description{.name = u"Threed.SSOption", .members = members, .base = &captionedMembers};
+    static constexpr ClassDescription description{
+        .name = u"Threed.SSOption", .members = members, .base = &captionedMembers};
     return description;
 }
 
@@ -47,8 +48,13 @@ void SSOption::paint(Painter& painter) const {
     const Rectangle area{0, 0, bounds().width, bounds().height};
     painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
     look::option(painter, area,
-                 {.caption = caption(), .font = font(), .foreColor = rgbOf(get_ForeColor()), .side = mark_,
-                  .enabled = get_Enabled(), .focused = isFocused(), .pressed = isPressed()},
+                 {.caption = caption(),
+                  .font = font(),
+                  .foreColor = rgbOf(get_ForeColor()),
+                  .side = mark_,
+                  .enabled = get_Enabled(),
+                  .focused = isFocused(),
+                  .pressed = isPressed()},
                  get_Value());
 }
 

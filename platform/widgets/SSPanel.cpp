@@ -5,7 +5,8 @@
 namespace zilvo::platform {
 
 SSPanel::SSPanel(Container& container, const Design& design, MouseDownHandler mouseDown)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), captionDown_(design.CaptionDown),
+    : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
+      captionDown_(design.CaptionDown),
       mouseDown_(mouseDown) {}
 
 void SSPanel::pointerDown(Integer button, Integer shift, Point at) {
@@ -22,8 +23,11 @@ void SSPanel::paint(Painter& painter) const {
     painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
     look::raised(painter, area);
     paintCaption(painter, area.inset(2 * TwipsPerPixel),
-                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()),
-                  .down = captionDown_, .greyed = !get_Enabled()});
+                 {.designed = caption(),
+                  .font = font(),
+                  .colour = rgbOf(get_ForeColor()),
+                  .down = captionDown_,
+                  .greyed = !get_Enabled()});
 }
 
 } // namespace zilvo::platform

@@ -16,8 +16,12 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 SSRibbon::SSRibbon(Container& container, const Design& design, ClickHandler click)
-    : Widget(container, placementOf(design)), pictureUp_(design.PictureUp), pictureDown_(design.PictureDown),
-      backColor_(design.BackColor), outline_(design.Outline), click_(click) {
+    : Widget(container, placementOf(design)),
+      pictureUp_(design.PictureUp),
+      pictureDown_(design.PictureDown),
+      backColor_(design.BackColor),
+      outline_(design.Outline),
+      click_(click) {
     if (design.Value) container.pressedRibbon = this;
 }
 

@@ -18,8 +18,12 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 Shape::Shape(Container& container, const Design& design)
-    : Widget(container, placementOf(design)), form_(design.Shape), borderWidth_(design.BorderWidth),
-      borderColor_(design.BorderColor), fillColor_(design.FillColor), backColor_(design.BackColor),
+    : Widget(container, placementOf(design)),
+      form_(design.Shape),
+      borderWidth_(design.BorderWidth),
+      borderColor_(design.BorderColor),
+      fillColor_(design.FillColor),
+      backColor_(design.BackColor),
       filled_(design.Filled) {}
 
 void Shape::put_Shape(Integer newShape) {
@@ -48,10 +52,16 @@ void Shape::paint(Painter& painter) const {
     const Single cornerRadius = std::min(area.width, area.height) / 5;
     switch (form_) {
     case IsOval:
-    case IsCircle: painter.ellipse(area, style); break;
+    case IsCircle:
+        painter.ellipse(area, style);
+        break;
     case IsRoundedRectangle:
-    case IsRoundedSquare: painter.rectangle(area, style, cornerRadius); break;
-    default: painter.rectangle(area, style); break;
+    case IsRoundedSquare:
+        painter.rectangle(area, style, cornerRadius);
+        break;
+    default:
+        painter.rectangle(area, style);
+        break;
     }
 }
 

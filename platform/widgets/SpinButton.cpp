@@ -25,9 +25,10 @@ void SpinButton::pointerUp() {
 }
 
 void SpinButton::held(std::chrono::milliseconds elapsed) {
-    // A handler may disable or hide the button, or let go of it: then the rest of the time spins nothing.
+    // A handler may disable or hide the button, or let go of it: then nothing spins until it is pressed again.
     untilRepeat_ -= elapsed;
-    while (untilRepeat_.count() <= 0 && spinning_ != Spin::None && acceptsInput()) {
+    while (untilRepeat_.count() <= 0 && spinning_ != Spin::None) {
+        if (!acceptsInput()) return pointerUp();
         untilRepeat_ += RepeatEvery;
         spin(spinning_);
     }
@@ -54,12 +55,13 @@ void SpinButton::paint(Painter& painter) const {
     const Single half = bounds().height / 2;
     const Rectangle upper{0, 0, bounds().width, half};
     const Rectangle lower{0, half, bounds().width, half};
-    look::buttonFace(painter, upper, rgbOf(backColor_), spinning_ == Spin::Up, false);
+    look::buttonFace(painter, upper, rgbOf(backColor_), isPressed() && spinning_ == Spin::Up, false);
     look::arrow(painter, upper, true, !get_Enabled());
-    look::buttonFace(painter, lower, rgbOf(backColor_), spinning_ == Spin::Down, false);
+    look::buttonFace(painter, lower, rgbOf(backColor_), isPressed() && spinning_ == Spin::Down, false);
     look::arrow(painter, lower, false, !get_Enabled());
-    if (isFocused()) look::focus(painter, {TwipsPerPixel, TwipsPerPixel, bounds().width - 2 * TwipsPerPixel,
-                                           bounds().height - 2 * TwipsPerPixel});
+    if (!isFocused()) return;
+    look::focus(painter, upper.inset(3 * TwipsPerPixel));
+    look::focus(painter, lower.inset(3 * TwipsPerPixel));
 }
 
 } // namespace zilvo::platform

@@ -58,8 +58,7 @@ void Surface::paint(Painter& painter) {
 void Surface::paintChildren(Painter& painter, const Container& container) {
     std::vector<Widget*> backToFront;
     for (Widget& child : *this)
-        if (&child.container() == &container && child.isPlaced() && child.get_Visible())
-            backToFront.push_back(&child);
+        if (&child.container() == &container && child.isPlaced() && child.get_Visible()) backToFront.push_back(&child);
     std::stable_sort(backToFront.begin(), backToFront.end(),
                      [](const Widget* one, const Widget* other) { return one->zOrder() < other->zOrder(); });
     for (Widget* child : backToFront) {

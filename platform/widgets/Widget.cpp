@@ -27,8 +27,14 @@ static_assert(idsAndNamesAreUnique(members));
 const ClassDescription Widget::commonMembers{.name = u"Widget", .members = members};
 
 Widget::Widget(Container& container, const Placement& place)
-    : container_(container), name_(place.name), bounds_(place.bounds), toolTipText_(place.toolTipText),
-      index_(place.index), tabIndex_(place.tabIndex), zOrder_(place.zOrder), visible_(place.visible),
+    : container_(container),
+      name_(place.name),
+      bounds_(place.bounds),
+      toolTipText_(place.toolTipText),
+      index_(place.index),
+      tabIndex_(place.tabIndex),
+      zOrder_(place.zOrder),
+      visible_(place.visible),
       enabled_(place.enabled) {
     surface().add(*this);
 }
@@ -79,14 +85,12 @@ void Widget::put_Height(Single newHeight) {
     place(&Rectangle::height, newHeight);
 }
 
-void Widget::put_Visible(bool newVisible) {
-    if (visible_ == newVisible) return;
+void Widget::show(bool newVisible) {
     visible_ = newVisible;
     changed();
 }
 
-void Widget::put_Enabled(bool newEnabled) {
-    if (enabled_ == newEnabled) return;
+void Widget::enable(bool newEnabled) {
     enabled_ = newEnabled;
     changed();
 }
@@ -106,6 +110,16 @@ bool Widget::acceptsInput() const noexcept {
     if (!visible_ || !enabled_) return false;
     if (const Widget* outer = parent()) return outer->acceptsInput();
     return surface().acceptsInput();
+}
+
+bool Widget::leadsGroup() const noexcept {
+    bool passed = false;
+    for (const Widget& other : surface()) {
+        passed = passed || &other == this;
+        if (&other == this || !isInGroupWith(other) || !other.acceptsInput()) continue;
+        if (other.tabIndex_ < tabIndex_ || (other.tabIndex_ == tabIndex_ && !passed)) return false;
+    }
+    return true;
 }
 
 void Widget::setFocused(bool focused) noexcept {

@@ -97,6 +97,10 @@ public:
     virtual Widget* parent() const noexcept { return container_.asWidget(); }
     /// The surface of the control that this widget embeds; null for all other kinds.
     virtual Surface* embeddedSurface() noexcept { return nullptr; }
+    /// The embedded control's own members; null for all other kinds.
+    virtual Described* embeddedMembers() noexcept { return nullptr; }
+    /// The surface's control has changed what that embedded one sees as its ambient property.
+    virtual void ambientChanged(StringView /*name*/) {}
     /// In the order of creation.
     Widget* nextOnSurface() const noexcept { return nextOnSurface_; }
     /// Among the widgets of one container the higher is in front, then the one created later.
@@ -120,9 +124,13 @@ public:
     Single get_Height() const noexcept { return bounds_.height / unit(); }
     void put_Height(Single newHeight);
     bool get_Visible() const noexcept { return visible_; }
-    void put_Visible(bool newVisible);
+    void put_Visible(bool newVisible) {
+        if (newVisible != visible_) show(newVisible);
+    }
     bool get_Enabled() const noexcept { return enabled_; }
-    void put_Enabled(bool newEnabled);
+    void put_Enabled(bool newEnabled) {
+        if (newEnabled != enabled_) enable(newEnabled);
+    }
     String get_ToolTipText() const { return String(toolTipText_.view()); }
     void put_ToolTipText(StringView newToolTipText);
     Integer get_TabIndex() const noexcept { return tabIndex_; }
@@ -165,6 +173,8 @@ protected:
     void changed() const noexcept;
     /// For a widget whose inside follows its size: runs after its width or height was set.
     virtual void sizeChanged() {}
+    /// Whether none of its group that takes input comes before it in Tab order.
+    bool leadsGroup() const noexcept;
     /// Takes on the size that the inside has given itself; twips.
     void followSize(Single width, Single height) noexcept;
     static const ClassDescription commonMembers;
@@ -172,6 +182,8 @@ protected:
 private:
     Single unit() const noexcept { return twipsPerUnit(container_.childScale()); }
     void place(Single Rectangle::*edge, Single value);
+    void show(bool newVisible);
+    void enable(bool newEnabled);
 
     Container& container_;
     Widget* nextOnSurface_ = nullptr;

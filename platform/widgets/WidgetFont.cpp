@@ -9,7 +9,11 @@ WidgetFont::~WidgetFont() {
 }
 
 const FontRef& WidgetFont::object() {
-    if (!font_) share(StdFont::make(design_));
+    if (!font_) {
+        FontRef made = StdFont::make(design_); // looks as before: nothing to be painted again
+        made->attach(*this);
+        font_ = std::move(made);
+    }
     return font_;
 }
 
@@ -24,7 +28,7 @@ void WidgetFont::share(FontRef font) {
 
 FontLook WidgetFont::look() const noexcept {
     if (font_) return font_->look();
-    return {design_.Name,      design_.Size, design_.Weight, design_.Italic, design_.Underline, design_.Strikethrough};
+    return {design_.Name, design_.Size, design_.Weight, design_.Italic, design_.Underline, design_.Strikethrough};
 }
 
 void WidgetFont::FontChanged() noexcept {
