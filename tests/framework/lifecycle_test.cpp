@@ -1,0 +1,189 @@
+#include "library/ZilvoButtons.h"
+#include "platform/component/ControlHost.h"
+#include "platform/painting/SvgPainter.h"
+
+#include <gtest/gtest.h>
+
+namespace zilvo {
+
+namespace {
+
+/// Logs the handlers that run, and fails in one on request.
+class Logger final : public Control {
+public:
+    explicit Logger(ComponentModule& module)
+        : Control(module, {.Width = 1500, .Height = 720, .ScaleMode = ScaleMode::Pixels}) {}
+    const ObjectDescription& description() const noexcept override;
+
+    UserControl& own() { return userControl; }
+    std::string log;
+    std::string failIn;
+    Event<> Nothing{*this};
+
+private:
+    void note(const std::string& what) {
+        log += what + " ";
+        if (what == failIn) throw Failure(Status::Overflow, "planted");
+    }
+    void Initialize() override { note("Initialize"); }
+    void InitProperties() override { note("InitProperties"); }
+    void ReadProperties(const PropertyBag& /*PropBag*/) override { note("ReadProperties"); }
+    void WriteProperties(PropertyBag& PropBag) override {
+        PropBag.WriteProperty(u"First", Integer{1});
+        note("WriteProperties");
+    }
+    void Resize() override {
+        note("Resize");
+        userControl.put_Width(1500); // asks for a width of its own; comes to rest by itself
+    }
+    void AmbientChanged(StringView PropertyName) override {
+        note("AmbientChanged(" + toUtf8(PropertyName) + ")");
+    }
+    bool KeyPress(Integer& /*KeyAscii*/) override {
+        note("KeyPress");
+        return false;
+    }
+    void MouseDown(Integer Button, Integer Shift, Single X, Single Y) override {
+        note("MouseDown(" + std::to_string(Button) + "," + std::to_string(Shift) + "," +
+             std::to_string(static_cast<int>(X)) + "," + std::to_string(static_cast<int>(Y)) + ")");
+    }
+};
+
+constinit const ObjectDescription loggerDescription{u"Logger", {}, {}};
+const ObjectDescription& Logger::description() const noexcept {
+    return loggerDescription;
+}
+
+Ref<Logger> makeLogger() {
+    return createObject<Logger>(libraryModule());
+}
+
+} // namespace
+
+TEST(Lifecycle, HandlersRunInOrderForNewAndForLoaded) {
+    const MemoryPropertyBag settings;
+    for (const bool loaded : {false, true}) {
+        const auto control = makeLogger();
+        ControlHost host(control);
+        host.open(loaded ? &settings : nullptr, 1500, 300);
+        host.setAmbient(u"backcolor", Long{0});
+        EXPECT_EQ(control->log, std::string("Initialize ") + (loaded ? "ReadProperties" : "InitProperties") +
+                                    " Resize AmbientChanged(BackColor) ");
+    }
+}
+
+TEST(Lifecycle, IllegalAndRepeatedTransitionsChangeNothing) {
+    const auto control = makeLogger();
+    HostedControl& hosted = *control;
+    MemoryPropertyBag settings;
+    ErrorInfo error;
+    EXPECT_EQ(hosted.InitNew(&error), Status::UnexpectedCall);
+    EXPECT_EQ(error.message, "Logger.InitProperties: the call is not legal: the control has no site");
+    EXPECT_EQ(hosted.Load(settings), Status::UnexpectedCall);
+    EXPECT_EQ(hosted.SetSize(1, 1), Status::UnexpectedCall);
+    EXPECT_EQ(hosted.Save(settings), Status::UnexpectedCall);
+    {
+        ControlHost host(control); // gives the site
+        EXPECT_EQ(hosted.Input(input::KeyTyped{65}, nullptr), Status::UnexpectedCall);
+        EXPECT_EQ(hosted.SetSize(1, 1), Status::UnexpectedCall);
+        EXPECT_EQ(hosted.InitNew(), Status::Ok);
+        EXPECT_EQ(hosted.InitNew(), Status::UnexpectedCall);
+        EXPECT_EQ(hosted.Load(settings), Status::UnexpectedCall);
+        EXPECT_EQ(hosted.AmbientPropertyChanged(u"Font"), Status::UnexpectedCall);
+        EXPECT_EQ(hosted.Save(settings), Status::Ok);
+        EXPECT_EQ(hosted.SetSize(1500, 700), Status::Ok);
+        EXPECT_THROW(ControlHost{control}, Failure);
+        EXPECT_EQ(control->own().get_Ambient().get_UserMode(), true) << "the second host took nothing away";
+    }
+    EXPECT_EQ(hosted.SetSize(1, 1), Status::UnexpectedCall) << "closed with its host";
+    EXPECT_EQ(hosted.Input(input::KeyTyped{65}, nullptr), Status::UnexpectedCall);
+    EXPECT_EQ(control->log, "Initialize InitProperties WriteProperties Resize ");
+}
+
+TEST(Lifecycle, AFailingStepKeepsWhatWasDoneAndTheOrderGoesOn) {
+    const auto control = makeLogger();
+    ControlHost host(control);
+    control->failIn = "ReadProperties";
+    const MemoryPropertyBag settings;
+    try {
+        host.open(&settings);
+        FAIL();
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.status(), Status::Overflow);
+        EXPECT_STREQ(failure.what(), "Logger.ReadProperties: planted");
+    }
+    EXPECT_EQ(host.control().Load(settings), Status::UnexpectedCall) << "loading has taken place";
+    control->failIn = "WriteProperties";
+    MemoryPropertyBag saved;
+    EXPECT_THROW(host.save(saved), Failure);
+    EXPECT_EQ(saved.settings().size(), 1U);
+}
+
+TEST(Lifecycle, AnInstanceWhoseInitializeFailsLeavesNothingBehind) {
+    class Failing final : public Control {
+    public:
+        explicit Failing(ComponentModule& module)
+            : Control(module, {.Width = 1, .Height = 1, .ScaleMode = ScaleMode::Twips}) {}
+        const ObjectDescription& description() const noexcept override { return loggerDescription; }
+
+    private:
+        void Initialize() override { throw Failure(Status::Overflow, "planted"); }
+    };
+    const std::size_t before = libraryModule().liveObjects();
+    EXPECT_THROW(createObject<Failing>(libraryModule()), Failure);
+    EXPECT_EQ(libraryModule().liveObjects(), before);
+}
+
+TEST(Surface, SizesColoursAndUnits) {
+    const auto control = makeLogger();
+    ControlHost host(control);
+    host.open(nullptr, 3000, 300);
+    EXPECT_EQ(control->own().get_Width(), 1500) << "the control's own width wins";
+    EXPECT_EQ(control->own().get_ScaleWidth(), 100);
+    EXPECT_EQ(host.extenderObject().get_Width(), 1500) << "and the host hears of it";
+    host.extenderObject().put_Height(600);
+    EXPECT_EQ(control->own().get_ScaleHeight(), 40);
+    EXPECT_THROW(host.resize(-1, 5), Failure);
+    EXPECT_EQ(control->own().get_Height(), 600);
+
+    control->log.clear();
+    host.input(input::PointerDown{{150, 300}, input::RightButton, input::ShiftMask});
+    EXPECT_EQ(control->log, "MouseDown(2,1,10,20) ");
+    EXPECT_FALSE(host.input(input::PointerDown{{150, 601}})) << "outside the control";
+}
+
+TEST(Surface, WithoutASiteDefaultsAnswerAndNothingIsNotified) {
+    const auto control = makeLogger();
+    UserControl& surface = control->own();
+    EXPECT_TRUE(surface.get_Ambient().get_UserMode());
+    EXPECT_EQ(surface.get_Ambient().get_BackColor(), colours::ButtonFace);
+    EXPECT_EQ(surface.get_Ambient().get_Font()->get_Name(), u"MS Sans Serif");
+    surface.get_Extender().put_Visible(false);
+    surface.PropertyChanged(u"Anything");
+    surface.Beep();
+    EXPECT_EQ(control->log, "Initialize ");
+}
+
+TEST(Hosting, AHandlerMayCloseTheHostInsideAnyCall) {
+    struct Way {
+        const char* name;
+        InputEvent event;
+    };
+    for (const Way& way : {Way{"key", input::KeyTyped{13}}, Way{"cancel", input::KeyTyped{27}}}) {
+        auto host = std::make_unique<ControlHost>(create<ssOKCancel>());
+        host->open();
+        int heard = 0;
+        const auto close = [&](std::span<Variant>) {
+            ++heard;
+            host.reset();
+        };
+        host->on(u"OKWasClicked", close);
+        host->on(u"CancelWasClicked", close);
+        host->input(way.event);
+        EXPECT_EQ(heard, 1) << way.name;
+        EXPECT_EQ(host, nullptr);
+    }
+    EXPECT_EQ(libraryModule().liveObjects(), 0U);
+}
+
+} // namespace zilvo

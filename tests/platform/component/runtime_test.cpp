@@ -1,0 +1,178 @@
+#include "library/ZilvoButtons.h"
+#include "platform/component/ComponentRuntime.h"
+#include "platform/component/ControlHost.h"
+
+#include <dlfcn.h>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+
+namespace zilvo {
+
+namespace {
+
+Status statusOfLoading(const std::filesystem::path& file, std::string* message = nullptr) {
+    try {
+        const LoadedComponent component(file);
+        return Status::Ok;
+    } catch (const Failure& failure) {
+        if (message) *message = failure.what();
+        return failure.status();
+    }
+}
+
+bool isInProcess(const std::filesystem::path& file) {
+    void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (library) dlclose(library);
+    return library != nullptr;
+}
+
+} // namespace
+
+TEST(Runtime, CreatesByNameProgIdAndClassId) {
+    const LoadedComponent component(COMPONENT_FILE);
+    for (const ClassEntry& entry : component.description().classes) {
+        const auto progId = progIdOf(component.description().library, entry.identity);
+        for (const String& name :
+             {String(entry.identity.name), progId, toUtf16(entry.identity.classId.text())})
+            EXPECT_EQ(component.create(name)->description().name, entry.identity.name);
+    }
+    for (const StringView unknown :
+         {u"ssOkCancle", u"", u"{00000000-0000-0000-0000-000000000000}", u"Other.ssOKCancel"}) {
+        try {
+            component.create(unknown);
+            ADD_FAILURE() << toUtf8(unknown);
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.status(), Status::ClassNotAvailable);
+            EXPECT_NE(std::string_view(failure.what()).find(toUtf8(unknown)), std::string_view::npos);
+        }
+    }
+}
+
+TEST(Runtime, RefusesToUnloadWhileAnythingLives) {
+    LoadedComponent component(COMPONENT_FILE);
+    const auto refused = [&] {
+        try {
+            component.unload();
+            return false;
+        } catch (const Failure& failure) {
+            return failure.status() == Status::InUse;
+        }
+    };
+    auto object = component.create(u"ssOKCancel");
+    EXPECT_EQ(component.liveObjects(), 1U);
+    EXPECT_TRUE(refused());
+
+    class Sink final : public EventSink {
+        void Event(Long /*number*/, std::span<Variant> /*arguments*/) override {}
+    } sink;
+    Connection connection;
+    ASSERT_EQ(object->Connect(1, sink, connection), Status::Ok);
+    object = nullptr;
+    EXPECT_EQ(component.liveObjects(), 0U);
+    EXPECT_TRUE(refused()) << "a connection lives";
+    connection.disconnect();
+
+    auto factory = component.classFactory(component.description().classes[0].identity.classId);
+    EXPECT_TRUE(refused()) << "a class factory lives";
+    factory = nullptr;
+
+    component.unload();
+    EXPECT_FALSE(isInProcess(COMPONENT_FILE)) << "really gone";
+    EXPECT_THROW(component.create(u"ssOKCancel"), Failure);
+}
+
+TEST(Runtime, ALoadedComponentLeavesTheProcessOnlyWhenNothingLives) {
+    Ref<Object> survivor;
+    {
+        const LoadedComponent component(COMPONENT_FILE);
+        survivor = component.create(u"ssOKCancel");
+    }
+    EXPECT_TRUE(toBoolean(get(*survivor, u"Cancel"))) << "its code is still there";
+    survivor = nullptr;
+}
+
+TEST(Runtime, ManyRoundsOfLoadingAndUnloading) {
+    for (int round = 0; round < 100; ++round) {
+        LoadedComponent component(COMPONENT_FILE);
+        {
+            ControlHost host(component.create(u"ssOKCancel"));
+            host.open();
+            host.on(u"OKWasClicked", [](std::span<Variant>) {});
+            EXPECT_TRUE(host.input(input::KeyTyped{13}));
+        }
+        component.unload();
+    }
+}
+
+TEST(Runtime, FilesThatAreNoComponent) {
+    const auto folder = std::filesystem::temp_directory_path() / "zilvo-runtime-test";
+    std::filesystem::create_directories(folder);
+    const auto file = folder / "Broken.Ocx";
+    std::string message;
+    EXPECT_EQ(statusOfLoading(folder / "Missing.Ocx", &message), Status::FileNotFound);
+    EXPECT_NE(message.find("Missing.Ocx"), std::string::npos);
+    EXPECT_EQ(statusOfLoading(folder, &message), Status::BadComponent);
+    std::ofstream(file) << "a text";
+    EXPECT_EQ(statusOfLoading(file), Status::BadComponent);
+    std::ofstream(file, std::ios::trunc).close();
+    EXPECT_EQ(statusOfLoading(file), Status::BadComponent);
+
+    // Cut short anywhere: refused, never a crash of the loader.
+    std::ifstream whole(COMPONENT_FILE, std::ios::binary);
+    const std::string bytes((std::istreambuf_iterator<char>(whole)), std::istreambuf_iterator<char>());
+    for (std::size_t length = 1; length < bytes.size(); length += bytes.size() / 97) {
+        std::ofstream(file, std::ios::binary | std::ios::trunc)
+            .write(bytes.data(), static_cast<std::streamsize>(length));
+        EXPECT_EQ(statusOfLoading(file, &message), Status::BadComponent) << length;
+    }
+    std::filesystem::remove_all(folder);
+
+    // A module of this machine that is no component.
+    Dl_info platform{};
+    ASSERT_NE(dladdr(reinterpret_cast<const void*>(&parseKey), &platform), 0);
+    EXPECT_EQ(statusOfLoading(platform.dli_fname, &message), Status::BadComponent);
+    EXPECT_NE(message.find("DllGetClassObject"), std::string::npos) << message;
+}
+
+TEST(Runtime, TheClassObjectEntryAnswersForUnknownIds) {
+    void* object = &object;
+    const auto& known = identityOf(u"ssOKCancel").classId;
+    EXPECT_EQ(getClassObject(libraryModule(), InformationInterface, ClassFactoryInterface, &object),
+              Status::ClassNotAvailable);
+    EXPECT_EQ(object, nullptr);
+    EXPECT_EQ(getClassObject(libraryModule(), known, known, &object), Status::NoInterface);
+    EXPECT_TRUE(libraryModule().canUnload());
+}
+
+TEST(Identity, ClassTableDescriptionsAndIdentitiesAgree) {
+    std::vector<Guid> ids = {libraryIdentity.id};
+    for (const ClassIdentity& identity : classIdentities) {
+        ids.push_back(identity.classId);
+        ids.push_back(identity.interfaceId);
+        if (identity.eventInterfaceId) ids.push_back(*identity.eventInterfaceId);
+        EXPECT_EQ(identity.isControl(), identity.toolboxBitmap.has_value());
+        EXPECT_EQ(identity.isControl(), identity.miscStatus.has_value());
+    }
+    for (const EnumerationDescription* enumeration : enumerations)
+        ids.push_back(enumeration->id);
+    std::sort(ids.begin(), ids.end());
+    EXPECT_EQ(std::adjacent_find(ids.begin(), ids.end()), ids.end()) << "an identifier stands twice";
+
+    for (const ClassEntry& entry : libraryModule().description().classes) {
+        EXPECT_EQ(entry.description.name, entry.identity.name);
+        Long number = 0;
+        for (const EventDescription& event : entry.description.events)
+            EXPECT_EQ(event.number, ++number) << toUtf8(event.name);
+    }
+}
+
+TEST(Identity, EnumerationNamesAreReadOffTheEnumerators) {
+    const auto& casino = descriptionOf(CasinoDeckDefaults{});
+    EXPECT_EQ(casino.members.front().name, u"deckDefaultResetDecks");
+    EXPECT_EQ(casino.members[9].name, u"deckdefaultAustrailia");
+    EXPECT_EQ(casino.members[9].value, 80);
+    EXPECT_EQ(descriptionOf(SpinCounterPossibilities{}).members[1].name, u"RighHandSpinCounter");
+}
+
+} // namespace zilvo
