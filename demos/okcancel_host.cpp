@@ -1,17 +1,15 @@
-// A host in typed C++: places an OK/Cancel pair, hears its events and does what a user would.
 #include "library/ZilvoButtons.h"
 #include "platform/component/ControlHost.h"
-
 #include <iostream>
 
 int main() {
-    const auto buttons = zilvo::create<zilvo::ssOKCancel>();
-    const auto ok = buttons->OKWasClicked.attach([] { std::cout << "OK was clicked\n"; });
-    const auto cancel = buttons->CancelWasClicked.attach([] { std::cout << "Cancel was clicked\n"; });
+    const auto pair = zilvo::create<zilvo::ssOKCancel>();
+    const auto ok = pair->OKWasClicked.attach([] { std::cout << "OK was clicked\n"; });
+    const auto cancel = pair->CancelWasClicked.attach([] { std::cout << "Cancel was clicked\n"; });
 
-    zilvo::platform::ControlHost host(buttons);
+    zilvo::platform::ControlHost host(pair);
     host.open();
-    buttons->put_OKEnabled(true);
+    pair->put_OKEnabled(true);
     host.click(u"cmdOK");
     host.input(zilvo::platform::input::KeyTyped{27});
 
