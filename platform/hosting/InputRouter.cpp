@@ -171,18 +171,19 @@ bool InputRouter::on(const input::Act& event) {
         return choose(item);
     }
     if (!widget.acceptsInput()) return false;
+    Rectangle area{0, 0, widget.bounds().width, widget.bounds().height};
     if (event.action != input::Action::Click) {
         const auto* spin = dynamic_cast<SpinButton*>(&widget);
         if (!spin) return false;
-        return press(widget, spin->pointFor(event.action == input::Action::SpinUp ? SpinButton::Spin::Up
-                                                                                  : SpinButton::Spin::Down));
+        area = spin->half(event.action == input::Action::SpinUp ? SpinButton::Spin::Up : SpinButton::Spin::Down);
+    } else if (!widget.isClickable()) {
+        return false;
     }
-    if (!widget.isClickable()) return false;
     // The middle first, then a grid: what covers the middle may leave a rim.
     constexpr std::array<Single, 5> fractions = {0.5F, 0.02F, 0.25F, 0.75F, 0.98F};
     for (const Single down : fractions)
         for (const Single across : fractions)
-            if (press(widget, {widget.bounds().width * across, widget.bounds().height * down})) return true;
+            if (press(widget, {area.left + area.width * across, area.top + area.height * down})) return true;
     return false;
 }
 

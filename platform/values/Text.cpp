@@ -47,7 +47,15 @@ void appendUtf16(String& out, char32_t point) {
     }
 }
 
-/// Reads one code point and moves `position` past it; a malformed sequence gives one U+FFFD for its first byte.
+/// Reads one code point and moves `position` past it; a lone surrogate gives U+FFFD.
+char32_t nextPoint(StringView text, std::size_t& position) noexcept {
+    const char32_t unit = text[position++];
+    if (isHighSurrogate(unit) && position < text.size() && isLowSurrogate(text[position]))
+        return 0x10000 + ((unit - 0xD800) << 10) + (text[position++] - 0xDC00U);
+    return isHighSurrogate(unit) || isLowSurrogate(unit) ? Replacement : unit;
+}
+
+/// The same of UTF-8; a malformed sequence gives one U+FFFD for its first byte.
 char32_t nextPoint(std::string_view text, std::size_t& position) noexcept {
     const auto byteAt = [&](std::size_t at) { return static_cast<char32_t>(static_cast<unsigned char>(text[at])); };
     const char32_t lead = byteAt(position++);
@@ -76,16 +84,8 @@ constexpr char16_t folded(char16_t unit) noexcept {
 std::string toUtf8(StringView text) {
     std::string out;
     out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t point = text[i];
-        if (isHighSurrogate(point) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
-            point = 0x10000 + ((point - 0xD800) << 10) + (text[i + 1] - 0xDC00U);
-            ++i;
-        } else if (isHighSurrogate(point) || isLowSurrogate(point)) {
-            point = Replacement;
-        }
-        appendUtf8(out, point);
-    }
+    for (std::size_t position = 0; position < text.size();)
+        appendUtf8(out, nextPoint(text, position));
     return out;
 }
 
@@ -94,6 +94,13 @@ String toUtf16(std::string_view text) {
     out.reserve(text.size());
     for (std::size_t position = 0; position < text.size();)
         appendUtf16(out, nextPoint(text, position));
+    return out;
+}
+
+String firstCharacter(StringView text) {
+    String out;
+    std::size_t position = 0;
+    if (!text.empty()) appendUtf16(out, nextPoint(text, position));
     return out;
 }
 

@@ -10,6 +10,9 @@ namespace zilvo::platform {
 std::string toUtf8(StringView text);
 String toUtf16(std::string_view text);
 
+/// The first character, whole: a surrogate pair stays together, half of one becomes U+FFFD. Empty when there is none.
+String firstCharacter(StringView text);
+
 bool sameLetters(StringView one, StringView other) noexcept;
 
 /// Published names compare without case; they are ASCII.

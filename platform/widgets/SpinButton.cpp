@@ -7,13 +7,16 @@ namespace zilvo::platform {
 SpinButton::SpinButton(Container& container, const Design& design, SpinHandler spinUp, SpinHandler spinDown)
     : Widget(container, placementOf(design)), spinUp_(spinUp), spinDown_(spinDown), backColor_(design.BackColor) {}
 
-Point SpinButton::pointFor(Spin spin) const noexcept {
-    return {bounds().width / 2, bounds().height * (spin == Spin::Up ? 0.25F : 0.75F)};
+Rectangle SpinButton::half(Spin way) const noexcept {
+    const Single width = bounds().width;
+    const Single height = bounds().height;
+    if (isSideBySide()) return {way == Spin::Up ? width / 2 : 0, 0, width / 2, height};
+    return {0, way == Spin::Up ? 0 : height / 2, width, height / 2};
 }
 
 void SpinButton::pointerDown(Integer button, Integer /*shift*/, Point at) {
     if (button != 1) return;
-    spinning_ = at.y < bounds().height / 2 ? Spin::Up : Spin::Down;
+    spinning_ = half(Spin::Up).contains(at) ? Spin::Up : Spin::Down;
     untilRepeat_ = RepeatDelay;
     changed();
     spin(spinning_);
@@ -52,16 +55,14 @@ const ClassDescription& SpinButton::description() const noexcept {
 }
 
 void SpinButton::paint(Painter& painter) const {
-    const Single half = bounds().height / 2;
-    const Rectangle upper{0, 0, bounds().width, half};
-    const Rectangle lower{0, half, bounds().width, half};
-    look::buttonFace(painter, upper, rgbOf(backColor_), isPressed() && spinning_ == Spin::Up, false);
-    look::arrow(painter, upper, true, !get_Enabled());
-    look::buttonFace(painter, lower, rgbOf(backColor_), isPressed() && spinning_ == Spin::Down, false);
-    look::arrow(painter, lower, false, !get_Enabled());
-    if (!isFocused()) return;
-    look::focus(painter, upper.inset(3 * TwipsPerPixel));
-    look::focus(painter, lower.inset(3 * TwipsPerPixel));
+    for (const Spin way : {Spin::Up, Spin::Down}) {
+        const Rectangle area = half(way);
+        look::buttonFace(painter, area, rgbOf(backColor_), isPressed() && spinning_ == way, false);
+        // Mounted above or below another widget, a wide button may show its upper half only: the arrows stay there.
+        const Single shown = isSideBySide() ? area.height / 2 : area.height;
+        look::arrow(painter, {area.left, area.top, area.width, shown}, way == Spin::Up, !get_Enabled());
+        if (isFocused()) look::focus(painter, area.inset(3 * TwipsPerPixel));
+    }
 }
 
 } // namespace zilvo::platform

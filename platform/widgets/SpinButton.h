@@ -4,7 +4,7 @@
 
 namespace zilvo::platform {
 
-/// Two arrows, up over down. A press of the user spins, and spins again while it is held, by the host's clock; arrow
+/// Two arrows, up over down, or, on a wide and low button, down beside up. A press of the user spins, and spins again while it is held, by the host's clock; arrow
 /// keys spin too. Nothing done in code does.
 class SpinButton final : public Widget {
 public:
@@ -28,8 +28,8 @@ public:
 
     SpinButton(Container& container, const Design& design, SpinHandler spinUp, SpinHandler spinDown);
 
-    /// Twips from the widget's corner: where a press spins that way.
-    Point pointFor(Spin spin) const noexcept;
+    /// Where a press spins that way; twips from the widget's corner.
+    Rectangle half(Spin way) const noexcept;
 
     const ClassDescription& description() const noexcept override;
     bool takesFocus() const noexcept override { return true; }
@@ -41,6 +41,8 @@ public:
 
 private:
     void spin(Spin way);
+    /// Wider than high, with room for two buttons of 30 pixels.
+    bool isSideBySide() const noexcept { return bounds().width > bounds().height && bounds().width >= 60 * TwipsPerPixel; }
 
     SpinHandler spinUp_;
     SpinHandler spinDown_;

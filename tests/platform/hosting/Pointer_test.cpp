@@ -34,11 +34,10 @@ TEST(Pointer, HitsWhatIsInFront) {
     EXPECT_FALSE(g.press(both));
     g.put({u"imgChip", 1}, u"Visible", false);
     EXPECT_EQ(nameAt(g, both), "imgChip(0)");
-    g.put({u"imgChip", 1}, u"Visible", true); // moved over the label, which has the higher place
-    g.put({u"imgChip", 1}, u"Left", 380);
-    g.put({u"imgChip", 1}, u"Top", 90);
+    g.put({u"cmdPush", 2}, u"Left", 380); // over the label, which was created earlier but has the higher place
+    g.put({u"cmdPush", 2}, u"Top", 90);
     EXPECT_EQ(nameAt(g, onLabel), "lblTable");
-    EXPECT_EQ(nameAt(g, {onLabel.x, 1450}), "imgChip(1)");
+    EXPECT_EQ(nameAt(g, {onLabel.x, 1450}), "cmdPush(2)");
     g.put({u"panelOptions"}, u"Visible", false);
     EXPECT_EQ(nameAt(g, g.middleOf({u"optChoice", 3})), "surface");
 }

@@ -32,6 +32,25 @@ TEST(Spinning, APressSpinsOnceInTheHalfThatItMeets) {
     EXPECT_FALSE(g.wait(10000));
 }
 
+TEST(Spinning, AWideAndLowButtonHasItsHalvesSideBySide) {
+    const GalleryHost g;
+    for (const auto& [edge, pixels] : {std::pair{u"Left", 180}, {u"Top", 220}, {u"Width", 100}, {u"Height", 20}})
+        g.put(spin, edge, pixels); // where nothing covers it
+    for (const Single across : {0.1F, 0.6F}) {
+        const Point at = g.pointOf(spin, across, 0.9F);
+        g.press(at), g.release(at);
+    }
+    EXPECT_TRUE(g.act(input::Act{g.widget(spin), input::Action::SpinUp}));
+    EXPECT_EQ(g.heard(), (Heard{"SpunDown()", "SpunUp()", "SpunUp()"}));
+    const std::string raised = g.painted();
+    g.press(g.pointOf(spin, 0.1F, 0.5F));
+    const std::string left = g.painted();
+    g.release({0, 0});
+    g.press(g.pointOf(spin, 0.9F, 0.5F));
+    EXPECT_NE(left, raised);
+    EXPECT_NE(g.painted(), left);
+}
+
 TEST(Spinning, RepeatsWhileHeldByTheHostsClock) {
     constexpr auto delay = static_cast<int>(SpinButton::RepeatDelay.count());
     constexpr auto every = static_cast<int>(SpinButton::RepeatEvery.count());
@@ -97,12 +116,13 @@ TEST(Spinning, EndsWhenAPopUpTakesThePointer) {
     EXPECT_EQ(g.heard(), Heard{});
     EXPECT_FALSE(g.widget(spin).isPressed());
 
+    int left = 3;
     g->on(u"SpunUp", [&](std::span<Variant>) {
-        dynamic_cast<UserControl&>(g.surface()).PopupMenu(dynamic_cast<Menu&>(g.widget({u"mnuRoot"})));
+        if (--left == 0) dynamic_cast<UserControl&>(g.surface()).PopupMenu(dynamic_cast<Menu&>(g.widget({u"mnuRoot"})));
     });
     g.press(up);
     g.wait(10000);
-    EXPECT_EQ(spins(g), 1U);
+    EXPECT_EQ(spins(g), 3U);
 }
 
 } // namespace

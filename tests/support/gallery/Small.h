@@ -7,9 +7,9 @@
 
 namespace zilvo {
 
-/// The player sees three picks, of which the first so many are allowed; the right button opens a menu of two; 0 or Escape
-/// picks none. The host gets Picked, by reference, and chooses how many are allowed; the control has the host's colours.
-/// It gives itself its width while it is loaded. Nothing is saved.
+/// The player sees three picks, of which the first so many are allowed; the right button opens a menu of two; 0 or
+/// Escape picks none. The host gets Picked, by reference, and chooses how many are allowed; the control has the host's
+/// colours. It gives itself its width while it is loaded. Nothing is saved.
 class Small final : public Control {
 public:
     static constexpr MemberId AllowedId = 0x68030000;
