@@ -1,4 +1,5 @@
 #include "hosts/console/Component.h"
+#include "hosts/console/Gallery.h"
 #include "hosts/console/Inspect.h"
 #include "hosts/console/LuaHost.h"
 #include "hosts/console/Snapshot.h"
@@ -21,6 +22,7 @@ struct CommandLine {
     std::string className;
     std::vector<std::string> classNames;
     std::filesystem::path directory;
+    std::filesystem::path picture;
     bool json = false;
 };
 
@@ -91,6 +93,11 @@ int snapshot(const CommandLine& given, const LoadedComponent& component) {
     return status;
 }
 
+int gallery(const CommandLine& given, const LoadedComponent& component) {
+    writeFile(given.picture, galleryOf(component));
+    return 0;
+}
+
 using Command = int(const CommandLine& given, const LoadedComponent& component);
 
 int start(int argc, char** argv) {
@@ -132,6 +139,8 @@ int start(int argc, char** argv) {
     CLI::App* snapshots = add("snapshot", "draws new instances into SVG files", snapshot);
     snapshots->add_option("classes", given.classNames, "the classes, or all")->type_name("CLASS")->required();
     snapshots->add_option("-o,--output", given.directory, "where the files go")->type_name("DIR")->required();
+    CLI::App* galleries = add("gallery", "draws all controls into one SVG file", gallery);
+    galleries->add_option("picture", given.picture, "the file")->type_name("FILE.svg")->required();
 
     try {
         app.parse(argc, argv);

@@ -11,10 +11,14 @@ const ClassEntry* ComponentDescription::find(const Guid& classId) const noexcept
 }
 
 const ClassEntry* ComponentDescription::find(StringView name) const {
-    if (const auto classId = Guid::parse(toUtf8(name))) return find(*classId);
+    const std::size_t prefix = library.name.size();
+    const bool isProgId =
+        name.size() > prefix && name[prefix] == u'.' && sameName(name.substr(0, prefix), library.name);
+    const StringView className = isProgId ? name.substr(prefix + 1) : name;
     for (const ClassEntry& entry : classes)
-        if (sameName(entry.identity.name, name) || sameName(progIdOf(library, entry.identity), name)) return &entry;
-    return nullptr;
+        if (sameName(entry.identity.name, className)) return &entry;
+    const auto classId = Guid::parse(toUtf8(name));
+    return classId ? find(*classId) : nullptr;
 }
 
 String progIdOf(const LibraryIdentity& library, const ClassIdentity& identity) {

@@ -12,10 +12,7 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 CheckBox::CheckBox(Container& container, const Design& design, ClickHandler click)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
-      value_(design.Value),
-      mark_(design.Mark),
-      click_(click) {}
+    : MarkedWidget(container, design), value_(design.Value), click_(click) {}
 
 void CheckBox::change(Integer newValue) {
     if (newValue < Unchecked || newValue > Greyed)
@@ -33,20 +30,11 @@ const ClassDescription& CheckBox::description() const noexcept {
 }
 
 void CheckBox::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
-    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    paintGround(painter);
     const auto state = value_ == Checked  ? look::CheckState::Ticked
                        : value_ == Greyed ? look::CheckState::Greyed
                                           : look::CheckState::Clear;
-    look::check(painter, area,
-                {.caption = caption(),
-                 .font = font(),
-                 .foreColor = rgbOf(get_ForeColor()),
-                 .side = mark_,
-                 .enabled = get_Enabled(),
-                 .focused = isFocused(),
-                 .pressed = isPressed()},
-                state);
+    look::check(painter, area(), look(), state);
 }
 
 } // namespace zilvo::platform

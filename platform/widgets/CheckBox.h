@@ -1,13 +1,12 @@
 #pragma once
 
-#include "platform/widgets/CaptionedWidget.h"
-#include "platform/widgets/Look.h"
+#include "platform/widgets/MarkedWidget.h"
 
 namespace zilvo::platform {
 
 /// A check box. Every change of Value sends Click, whether the user or the code made it; setting the value that it
 /// has sends nothing.
-class CheckBox final : public CaptionedWidget {
+class CheckBox final : public MarkedWidget {
 public:
     static constexpr Integer Unchecked = 0;
     static constexpr Integer Checked = 1;
@@ -40,9 +39,6 @@ public:
     }
 
     const ClassDescription& description() const noexcept override;
-    bool takesFocus() const noexcept override { return true; }
-    char16_t accessKey() const noexcept override { return accessKeyOf(caption()); }
-    bool isClickable() const noexcept override { return true; }
     void userClick() override { put_Value(value_ == Unchecked ? Checked : Unchecked); }
     void paint(Painter& painter) const override;
 
@@ -50,7 +46,6 @@ private:
     void change(Integer newValue);
 
     Integer value_;
-    look::MarkSide mark_;
     ClickHandler click_;
 };
 

@@ -101,6 +101,11 @@ void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed,
     }
 }
 
+void dim(Painter& painter, const Rectangle& area, Rgb ground) {
+    for (Single left = area.left; left < area.right(); left += 2 * Pixel)
+        fill(painter, {left, area.top, Pixel, area.height}, ground);
+}
+
 void arrow(Painter& painter, const Rectangle& area, bool up, bool greyed) {
     const Single reach = std::max(Pixel, std::min({4 * Pixel, area.width / 4, area.height / 3}));
     const Point middle{area.left + area.width / 2, area.top + area.height / 2};

@@ -24,6 +24,8 @@ void etched(Painter& painter, const Rectangle& area, Single gapFrom, Single gapT
 void focus(Painter& painter, const Rectangle& area);
 /// A raised or pressed push-button face.
 void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed, bool framed);
+/// Greys what is drawn in the area: every other column of pixels in the ground's colour.
+void dim(Painter& painter, const Rectangle& area, Rgb ground);
 /// A small triangle in the middle of the area.
 void arrow(Painter& painter, const Rectangle& area, bool up, bool greyed);
 /// The tick of a check box or a checked menu item, in a square of 13 pixels at `corner`.

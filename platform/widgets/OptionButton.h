@@ -1,14 +1,13 @@
 #pragma once
 
-#include "platform/widgets/CaptionedWidget.h"
-#include "platform/widgets/Look.h"
+#include "platform/widgets/MarkedWidget.h"
 
 namespace zilvo::platform {
 
 /// A radio button; those of one container form an exclusive group. Becoming the selected one sends Click, whether
 /// the user or the code selected it and also while it is disabled or hidden; selecting the selected one again and
 /// clearing send nothing.
-class OptionButton final : public CaptionedWidget {
+class OptionButton final : public MarkedWidget {
 public:
     struct Design {
         platform::Name Name;
@@ -34,10 +33,7 @@ public:
     void put_Value(bool newValue);
 
     const ClassDescription& description() const noexcept override;
-    bool takesFocus() const noexcept override { return true; }
     bool isTabStop() const noexcept override;
-    char16_t accessKey() const noexcept override { return accessKeyOf(caption()); }
-    bool isClickable() const noexcept override { return true; }
     void userClick() override { select(); }
     bool isInGroupWith(const Widget& other) const noexcept override;
     void paint(Painter& painter) const override;
@@ -45,7 +41,6 @@ public:
 private:
     void select();
 
-    look::MarkSide mark_;
     ClickHandler click_;
 };
 

@@ -12,10 +12,7 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 SSCheck::SSCheck(Container& container, const Design& design, ClickHandler click)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
-      value_(design.Value),
-      mark_(design.Mark),
-      click_(click) {}
+    : MarkedWidget(container, design), value_(design.Value), click_(click) {}
 
 void SSCheck::put_Value(bool newValue) {
     if (value_ == newValue) return;
@@ -37,17 +34,8 @@ const ClassDescription& SSCheck::description() const noexcept {
 }
 
 void SSCheck::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
-    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
-    look::check(painter, area,
-                {.caption = caption(),
-                 .font = font(),
-                 .foreColor = rgbOf(get_ForeColor()),
-                 .side = mark_,
-                 .enabled = get_Enabled(),
-                 .focused = isFocused(),
-                 .pressed = isPressed()},
-                value_ ? look::CheckState::Ticked : look::CheckState::Clear);
+    paintGround(painter);
+    look::check(painter, area(), look(), value_ ? look::CheckState::Ticked : look::CheckState::Clear);
 }
 
 } // namespace zilvo::platform

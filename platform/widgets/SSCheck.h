@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/widgets/CaptionedWidget.h"
-#include "platform/widgets/Look.h"
+#include "platform/widgets/MarkedWidget.h"
 
 namespace zilvo::platform {
 
 /// A 3-D check button. The user's click toggles it and sends Index and the new Value (-1 or 0); code never does.
-class SSCheck final : public CaptionedWidget {
+class SSCheck final : public MarkedWidget {
 public:
     struct Design {
         platform::Name Name;
@@ -32,15 +31,11 @@ public:
     void put_Value(bool newValue);
 
     const ClassDescription& description() const noexcept override;
-    bool takesFocus() const noexcept override { return true; }
-    char16_t accessKey() const noexcept override { return accessKeyOf(caption()); }
-    bool isClickable() const noexcept override { return true; }
     void userClick() override;
     void paint(Painter& painter) const override;
 
 private:
     bool value_;
-    look::MarkSide mark_;
     ClickHandler click_;
 };
 

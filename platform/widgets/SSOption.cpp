@@ -12,7 +12,7 @@ static_assert(idsAndNamesAreUnique(members));
 } // namespace
 
 SSOption::SSOption(Container& container, const Design& design, ClickHandler click)
-    : CaptionedWidget(container, placementOf(design), appearanceOf(design)), mark_(design.Mark), click_(click) {
+    : MarkedWidget(container, design), click_(click) {
     if (design.Value) container.selectedSSOption = this;
 }
 
@@ -45,17 +45,8 @@ const ClassDescription& SSOption::description() const noexcept {
 }
 
 void SSOption::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
-    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
-    look::option(painter, area,
-                 {.caption = caption(),
-                  .font = font(),
-                  .foreColor = rgbOf(get_ForeColor()),
-                  .side = mark_,
-                  .enabled = get_Enabled(),
-                  .focused = isFocused(),
-                  .pressed = isPressed()},
-                 get_Value());
+    paintGround(painter);
+    look::option(painter, area(), look(), get_Value());
 }
 
 } // namespace zilvo::platform

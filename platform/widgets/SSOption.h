@@ -1,13 +1,12 @@
 #pragma once
 
-#include "platform/widgets/CaptionedWidget.h"
-#include "platform/widgets/Look.h"
+#include "platform/widgets/MarkedWidget.h"
 
 namespace zilvo::platform {
 
 /// A 3-D option button; those of one container form an exclusive group. Every click of the user selects it and
 /// sends Index and the new Value (-1), also on the selected one; code never sends anything.
-class SSOption final : public CaptionedWidget {
+class SSOption final : public MarkedWidget {
 public:
     struct Design {
         platform::Name Name;
@@ -33,16 +32,12 @@ public:
     void put_Value(bool newValue);
 
     const ClassDescription& description() const noexcept override;
-    bool takesFocus() const noexcept override { return true; }
     bool isTabStop() const noexcept override;
-    char16_t accessKey() const noexcept override { return accessKeyOf(caption()); }
-    bool isClickable() const noexcept override { return true; }
     void userClick() override;
     bool isInGroupWith(const Widget& other) const noexcept override;
     void paint(Painter& painter) const override;
 
 private:
-    look::MarkSide mark_;
     ClickHandler click_;
 };
 

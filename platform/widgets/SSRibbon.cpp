@@ -64,6 +64,7 @@ void SSRibbon::paint(Painter& painter) const {
         const Single height = static_cast<Single>(picture->height()) * TwipsPerPixel;
         painter.bitmap(*picture, {(area.width - width) / 2, (area.height - height) / 2, width, height});
     }
+    if (!get_Enabled()) look::dim(painter, area.inset(2 * TwipsPerPixel), rgbOf(backColor_));
     if (isFocused()) look::focus(painter, area.inset(3 * TwipsPerPixel));
 }
 

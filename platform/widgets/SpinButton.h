@@ -4,8 +4,8 @@
 
 namespace zilvo::platform {
 
-/// Two arrows, up over down, or, on a wide and low button, down beside up. A press of the user spins, and spins again while it is held, by the host's clock; arrow
-/// keys spin too. Nothing done in code does.
+/// Two arrows, up over down, or, on a wide and low button, down beside up. A press of the user spins, and spins again
+/// while it is held, by the host's clock; arrow keys spin too. Nothing done in code does.
 class SpinButton final : public Widget {
 public:
     struct Design {
@@ -42,7 +42,9 @@ public:
 private:
     void spin(Spin way);
     /// Wider than high, with room for two buttons of 30 pixels.
-    bool isSideBySide() const noexcept { return bounds().width > bounds().height && bounds().width >= 60 * TwipsPerPixel; }
+    bool isSideBySide() const noexcept {
+        return bounds().width > bounds().height && bounds().width >= 60 * TwipsPerPixel;
+    }
 
     SpinHandler spinUp_;
     SpinHandler spinDown_;

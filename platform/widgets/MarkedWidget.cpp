@@ -1,0 +1,19 @@
+#include "platform/widgets/MarkedWidget.h"
+
+namespace zilvo::platform {
+
+void MarkedWidget::paintGround(Painter& painter) const {
+    painter.rectangle(area(), {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+}
+
+look::MarkedLook MarkedWidget::look() const noexcept {
+    return {.caption = caption(),
+            .font = font(),
+            .foreColor = rgbOf(get_ForeColor()),
+            .side = mark_,
+            .enabled = get_Enabled(),
+            .focused = isFocused(),
+            .pressed = isPressed()};
+}
+
+} // namespace zilvo::platform

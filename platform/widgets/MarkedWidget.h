@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/widgets/CaptionedWidget.h"
+#include "platform/widgets/Look.h"
+
+namespace zilvo::platform {
+
+/// A widget that is a mark, square or round, beside a caption, and that the user sets by a click.
+class MarkedWidget : public CaptionedWidget {
+public:
+    bool takesFocus() const noexcept final { return true; }
+    char16_t accessKey() const noexcept final { return accessKeyOf(caption()); }
+    bool isClickable() const noexcept final { return true; }
+
+protected:
+    template <class Design>
+    MarkedWidget(Container& container, const Design& design)
+        : CaptionedWidget(container, placementOf(design), appearanceOf(design)), mark_(design.Mark) {}
+
+    Rectangle area() const noexcept { return {0, 0, bounds().width, bounds().height}; }
+    void paintGround(Painter& painter) const;
+    look::MarkedLook look() const noexcept;
+
+private:
+    look::MarkSide mark_;
+};
+
+} // namespace zilvo::platform
