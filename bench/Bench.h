@@ -11,6 +11,9 @@ inline void limited(benchmark::State& state, double mostTimesACall) {
     state.counters["limit"] = mostTimesACall;
 }
 
+/// One for every class of the library.
+void registerClassBenchmarks();
+
 /// The least that a host can be.
 class NullSite final : public platform::ControlSite {
 public:

@@ -1,5 +1,6 @@
+#include "bench/Bench.h"
+
 #include <algorithm>
-#include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
 #include <string>
@@ -62,6 +63,7 @@ int main(int argc, char** argv) {
     auto count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+    zilvo::bench::registerClassBenchmarks();
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();

@@ -1,6 +1,14 @@
 #pragma once
 
+#include "buttons/GOButton.h"
+#include "buttons/GamingCardSelection.h"
+#include "buttons/LetterButton.h"
+#include "buttons/PlusMinusButton.h"
+#include "buttons/StartStopButtons.h"
+#include "buttons/SwitchCardsButton.h"
+#include "buttons/paneledGOButton.h"
 #include "buttons/ssOKCancel.h"
+#include "buttons/verticalOK.h"
 #include "framework/Enumerations.h"
 #include "framework/Identity.h"
 #include "platform/component/ClassFactory.h"
@@ -10,6 +18,9 @@
 #include "seats/SpreadSeatButtons.h"
 #include "seats/ZilvoButtonGoodies.h"
 #include "seats/paneledSeatBoxes.h"
+#include "setup/CardShufflingOptions.h"
+#include "setup/DeckButtons.h"
+#include "setup/SpinCounter.h"
 
 namespace zilvo {
 

@@ -160,8 +160,7 @@ TEST(OKCancel, AStoredValueThatDoesNotConvertFailsAtItsStep) {
         const char* message;
     };
     const Case cases[] = {
-        {u"Default", u"maybe",
-         "ssOKCancel.ReadProperties: Default: \"maybe\" (String) does not convert to Boolean"},
+        {u"Default", u"maybe", "ssOKCancel.ReadProperties: Default: \"maybe\" (String) does not convert to Boolean"},
         {u"ItalicCancel", Variant(some),
          "ssOKCancel.ReadProperties: ItalicCancel: the font MS Sans Serif does not "
          "convert to Boolean"},
@@ -180,8 +179,7 @@ TEST(OKCancel, AStoredValueThatDoesNotConvertFailsAtItsStep) {
         EXPECT_EQ(pair.host.control().Load(bag, &error), Status::TypeMismatch);
         EXPECT_EQ(error.message, tried.message);
         const bool reachedTheEnd = tried.key == u"CancelToolTipText";
-        EXPECT_EQ(pair.control->get_Cancel(), tried.key == u"Default")
-            << "earlier keys stay, later ones are not read";
+        EXPECT_EQ(pair.control->get_Cancel(), tried.key == u"Default") << "earlier keys stay, later ones are not read";
         EXPECT_EQ(pair.control->get_OKToolTipText(), reachedTheEnd ? u"42" : u"");
     }
 }
@@ -214,8 +212,8 @@ TEST(OKCancel, DispatchConvertsAndNamesWhatIsWrong) {
 TEST(OKCancel, AFailingHandlerFailsTheInputThatRaisedTheEvent) {
     Pair pair;
     pair.host.open();
-    const auto connection = pair.control->OKWasClicked.attach(
-        [] { throw Failure(Status::SubscriptOutOfRange, "the host's own"); });
+    const auto connection =
+        pair.control->OKWasClicked.attach([] { throw Failure(Status::SubscriptOutOfRange, "the host's own"); });
     ErrorInfo error;
     EXPECT_EQ(pair.host.control().Input(input::KeyTyped{13}, nullptr, &error), Status::SubscriptOutOfRange);
     EXPECT_EQ(error.message, "ssOKCancel.Input: the host's own");

@@ -36,9 +36,7 @@ private:
         note("Resize");
         userControl.put_Width(1500); // asks for a width of its own; comes to rest by itself
     }
-    void AmbientChanged(StringView PropertyName) override {
-        note("AmbientChanged(" + toUtf8(PropertyName) + ")");
-    }
+    void AmbientChanged(StringView PropertyName) override { note("AmbientChanged(" + toUtf8(PropertyName) + ")"); }
     bool KeyPress(Integer& /*KeyAscii*/) override {
         note("KeyPress");
         return false;

@@ -33,8 +33,7 @@ TEST(Runtime, CreatesByNameProgIdAndClassId) {
     const LoadedComponent component(COMPONENT_FILE);
     for (const ClassEntry& entry : component.description().classes) {
         const auto progId = progIdOf(component.description().library, entry.identity);
-        for (const String& name :
-             {String(entry.identity.name), progId, toUtf16(entry.identity.classId.text())})
+        for (const String& name : {String(entry.identity.name), progId, toUtf16(entry.identity.classId.text())})
             EXPECT_EQ(component.create(name)->description().name, entry.identity.name);
     }
     for (const StringView unknown :

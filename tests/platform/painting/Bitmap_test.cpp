@@ -25,12 +25,10 @@ TEST(Bitmap, RowsOfAnOddWidthArePaddedAndRunFromTheBottomUp) {
     Bitmap picture(3, 2, {0x11, 0x22, 0x33});
     picture.set(0, 1, {0xAA, 0xBB, 0xCC});
     const std::vector<std::uint8_t> expected{
-        40,   0,    0,    0,    3,    0,    0,    0,    2,    0, 0, 0,
-        1,    0,    24,   0,    0,    0,    0,    0, // up to compression
-        24,   0,    0,    0,    0,    0,    0,    0,    0,    0, 0, 0,
-        0,    0,    0,    0,    0,    0,    0,    0,                   // image size and rest
-        0xCC, 0xBB, 0xAA, 0x33, 0x22, 0x11, 0x33, 0x22, 0x11, 0, 0, 0, // bottom row
-        0x33, 0x22, 0x11, 0x33, 0x22, 0x11, 0x33, 0x22, 0x11, 0, 0, 0, // top row
+        40,   0,    0,    0,    3,    0,    0,    0,    2,    0, 0, 0, 1, 0, 24, 0, 0, 0, 0, 0, // up to compression
+        24,   0,    0,    0,    0,    0,    0,    0,    0,    0, 0, 0, 0, 0, 0,  0, 0, 0, 0, 0, // image size and rest
+        0xCC, 0xBB, 0xAA, 0x33, 0x22, 0x11, 0x33, 0x22, 0x11, 0, 0, 0,                          // bottom row
+        0x33, 0x22, 0x11, 0x33, 0x22, 0x11, 0x33, 0x22, 0x11, 0, 0, 0,                          // top row
     };
     EXPECT_EQ(picture.deviceIndependent(), expected);
     EXPECT_EQ(Bitmap(16, 15).deviceIndependent().size(), 760U);
@@ -43,8 +41,7 @@ TEST(Bitmap, RefusesSidesAndPixelsOutOfRange) {
     }
     Bitmap picture(4, 3);
     for (const Place at : {Place{4, 0}, {0, 3}, {-1, 1}, {0, -1}})
-        EXPECT_EQ(statusOf([&] { picture.set(at.x, at.y, {}); }), Status::SubscriptOutOfRange)
-            << at.x << ' ' << at.y;
+        EXPECT_EQ(statusOf([&] { picture.set(at.x, at.y, {}); }), Status::SubscriptOutOfRange) << at.x << ' ' << at.y;
     EXPECT_EQ(picture.at(3, 2), Bitmap::Pixel{});
 }
 

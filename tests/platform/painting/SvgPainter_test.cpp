@@ -85,12 +85,8 @@ TEST(SvgPainter, HostileTextStaysWellFormed) {
 TEST(SvgPainter, TheAccessKeyRuleKeepsToTheStretchedRun) {
     const Single whole = textWidth(u"OK", Plain);
     SvgPainter painter(1500, 750);
-    painter.text({.text = u"OK",
-                  .origin = {150, 300},
-                  .width = 2 * whole,
-                  .font = Plain,
-                  .colour = {},
-                  .underlined = 0});
+    painter.text(
+        {.text = u"OK", .origin = {150, 300}, .width = 2 * whole, .font = Plain, .colour = {}, .underlined = 0});
     SvgPainter expected(1500, 750);
     expected.text({.text = u"OK", .origin = {150, 300}, .width = 2 * whole, .font = Plain, .colour = {}});
     expected.rectangle({150, 315, 2 * textWidth(u"O", Plain), 15}, {.fill = Black, .stroke = {}}, 0);
@@ -106,8 +102,7 @@ TEST(SvgPainter, LinesAndFramesCoverWholePixels) {
     const std::string document = painter.document();
     for (const char* place :
          {R"(x="0" y="2" width="10" height="1" fill)", R"(x="2" y="1" width="2" height="2" fill)",
-          R"(x="0.5" y="0.5" width="9" height="4" fill="none")",
-          R"(x="0" y="0" width="10" height="1" fill="#000000")"})
+          R"(x="0.5" y="0.5" width="9" height="4" fill="none")", R"(x="0" y="0" width="10" height="1" fill="#000000")"})
         EXPECT_NE(document.find(place), std::string::npos) << place;
 }
 
@@ -129,11 +124,9 @@ TEST(SvgPainter, NumbersAreShortFiniteAndOfNoLocale) {
     const std::locale before = std::locale::global(std::locale(std::locale(), &odd));
     SvgPainter painter(150000, 22.5F);
     painter.rectangle({-0.01F, 5, 7.5F, 18.75F}, {.fill = Black, .stroke = {}}, 0);
-    painter.rectangle({none, -endless, endless, 3e38F}, {.fill = Black, .stroke = Black, .strokeWidth = none},
-                      none);
+    painter.rectangle({none, -endless, endless, 3e38F}, {.fill = Black, .stroke = Black, .strokeWidth = none}, none);
     painter.line({none, 0}, {endless, 75}, Black, endless);
-    painter.text(
-        {.text = u"a", .origin = {none, 0}, .width = endless, .font = Plain, .colour = {}, .underlined = 0});
+    painter.text({.text = u"a", .origin = {none, 0}, .width = endless, .font = Plain, .colour = {}, .underlined = 0});
     const std::string document = painter.document();
     std::locale::global(before);
     EXPECT_NE(document.find(R"(width="10000" height="1.5")"), std::string::npos);
@@ -161,8 +154,7 @@ TEST(SvgPainter, RunsOfABitmapCoverEachPixelOnceInItsColour) {
         for (std::sregex_iterator part(runs.begin(), runs.end(), run); part != end; ++part) {
             EXPECT_EQ((*part)[3], (*part)[4]);
             for (int i = 0; i < std::stoi((*part)[3]); ++i)
-                EXPECT_TRUE(
-                    covered.try_emplace({std::stoi((*part)[1]) + i, std::stoi((*part)[2])}, (*it)[1]).second);
+                EXPECT_TRUE(covered.try_emplace({std::stoi((*part)[1]) + i, std::stoi((*part)[2])}, (*it)[1]).second);
         }
     }
     EXPECT_EQ(covered.size(), 20U);

@@ -30,9 +30,7 @@ public:
     void bitmap(const Bitmap&, const Rectangle&) override {}
     void enter(const Rectangle&) override {}
     void leave() override {}
-    Single measure(StringView text, const FontLook&) const override {
-        return static_cast<Single>(text.size() * 100);
-    }
+    Single measure(StringView text, const FontLook&) const override { return static_cast<Single>(text.size() * 100); }
 
     std::vector<String> lines() const {
         std::vector<String> all;

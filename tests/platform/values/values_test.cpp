@@ -34,16 +34,14 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
         Variant value;
         Integer expected;
     };
-    const Case cases[] = {{2.5F, 2},      {3.5F, 4},         {-2.5F, -2},
-                          {-0.5F, 0},     {32767.4F, 32767}, {Long{-32768}, -32768},
-                          {true, -1},     {u" +12.5 ", 12},  {u"1e2", 100},
-                          {Variant(), 0}, {u"-7", -7},       {Colour{5}, 5}};
+    const Case cases[] = {
+        {2.5F, 2},  {3.5F, 4},        {-2.5F, -2},   {-0.5F, 0},     {32767.4F, 32767}, {Long{-32768}, -32768},
+        {true, -1}, {u" +12.5 ", 12}, {u"1e2", 100}, {Variant(), 0}, {u"-7", -7},       {Colour{5}, 5}};
     for (const Case& tried : cases)
         EXPECT_EQ(toInteger(tried.value), tried.expected) << describe(tried.value);
 
-    for (const Variant& value :
-         {Variant(Long{32768}), Variant(Long{-32769}), Variant(32767.5F), Variant(u"40000"),
-          Variant(u"1e999"), Variant(std::numeric_limits<float>::quiet_NaN())})
+    for (const Variant& value : {Variant(Long{32768}), Variant(Long{-32769}), Variant(32767.5F), Variant(u"40000"),
+                                 Variant(u"1e999"), Variant(std::numeric_limits<float>::quiet_NaN())})
         EXPECT_EQ(statusOf<Integer>(value), Status::Overflow) << describe(value);
     EXPECT_EQ(toLong(Variant(-2147483648.0F)), std::numeric_limits<Long>::min());
     EXPECT_EQ(statusOf<Long>(Variant(2147483648.0F)), Status::Overflow);
@@ -52,10 +50,9 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
 }
 
 TEST(Conversions, WhatHoldsNoNumberIsATypeMismatch) {
-    for (const Variant& value :
-         {Variant(u""), Variant(u"12x"), Variant(u"0x10"), Variant(u"inf"), Variant(u"nan"), Variant(u"1 2"),
-          Variant(u"+-3"), Variant(u"--3"), Variant(u"."), Variant(u"\u0663"), Variant(Missing()),
-          Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
+    for (const Variant& value : {Variant(u""), Variant(u"12x"), Variant(u"0x10"), Variant(u"inf"), Variant(u"nan"),
+                                 Variant(u"1 2"), Variant(u"+-3"), Variant(u"--3"), Variant(u"."), Variant(u"\u0663"),
+                                 Variant(Missing()), Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
         EXPECT_EQ(statusOf<Integer>(value), Status::TypeMismatch) << describe(value);
         EXPECT_EQ(statusOf<bool>(value), Status::TypeMismatch) << describe(value);
     }
@@ -131,8 +128,7 @@ TEST(Variants, EqualityByValue) {
         {someFont(), other, false},
     };
     for (const Case& tried : cases) {
-        EXPECT_EQ(equalByValue(tried.one, tried.other), tried.equal)
-            << describe(tried.one) << describe(tried.other);
+        EXPECT_EQ(equalByValue(tried.one, tried.other), tried.equal) << describe(tried.one) << describe(tried.other);
         EXPECT_EQ(equalByValue(tried.other, tried.one), tried.equal);
     }
 }
@@ -152,9 +148,8 @@ TEST(Guids, TextThereAndBack) {
     constexpr auto id = "{f183cff5-42c5-44a4-958c-928e204ebe8b}"_guid;
     EXPECT_EQ(id.text(), "{F183CFF5-42C5-44A4-958C-928E204EBE8B}");
     EXPECT_EQ(Guid::parse("F183CFF5-42C5-44A4-958C-928E204EBE8B"), id);
-    for (const char* wrong :
-         {"", "{}", "{F183CFF5-42C5-44A4-958C-928E204EBE8B", "F183CFF5x42C5-44A4-958C-928E204EBE8B",
-          "G183CFF5-42C5-44A4-958C-928E204EBE8B", "{F183CFF5-42C5-44A4-958C-928E204EBE8B}}"})
+    for (const char* wrong : {"", "{}", "{F183CFF5-42C5-44A4-958C-928E204EBE8B", "F183CFF5x42C5-44A4-958C-928E204EBE8B",
+                              "G183CFF5-42C5-44A4-958C-928E204EBE8B", "{F183CFF5-42C5-44A4-958C-928E204EBE8B}}"})
         EXPECT_FALSE(Guid::parse(wrong)) << wrong;
 }
 
@@ -199,10 +194,8 @@ TEST(Fonts, MembersByNameAndTheirLimits) {
     font->put_Weight(900);
     font->put_Bold(true);
     EXPECT_EQ(font->get_Weight(), 900) << "a heavy font is bold already";
-    for (const auto& [name, value] : {std::pair<StringView, Variant>{u"Size", 0.0F},
-                                      {u"Size", -1.0F},
-                                      {u"Weight", Integer{0}},
-                                      {u"Name", u""}}) {
+    for (const auto& [name, value] :
+         {std::pair<StringView, Variant>{u"Size", 0.0F}, {u"Size", -1.0F}, {u"Weight", Integer{0}}, {u"Name", u""}}) {
         try {
             putMember(*font, name, value);
             ADD_FAILURE() << toUtf8(name);

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "buttons/Pictures.h"
+#include "framework/Control.h"
+#include "framework/Enumerations.h"
+#include "platform/widgets/CommandButton.h"
+#include "platform/widgets/ControlArray.h"
+#include "platform/widgets/SSCheck.h"
+#include "platform/widgets/SSPanel.h"
+#include "platform/widgets/SSRibbon.h"
+
+namespace zilvo {
+
+/// The player sees three picture buttons for where dealt cards go (discard tray, table, shoe) and two close boxes.
+/// The host gets the event of the button that was pressed and presses one from code; the close boxes hide the control,
+/// and "Load Cards" with its LoadCardsRequested stays hidden. Nothing is saved.
+class GamingCardSelection final : public Control {
+public:
+    static const ObjectDescription Description;
+    explicit GamingCardSelection(ComponentModule& module);
+
+    /// Presses the button without an event. What is no button fails with MissingElement, what is no Integer with
+    /// Overflow.
+    void SelectThisButton(GameCardButtonPossibilities& ButtonToSelect);
+
+    Event<> CardsToShoeClicked{*this};
+    Event<> CardsToDiscardTrayClicked{*this};
+    Event<> CardsToTableClicked{*this};
+    Event<> LoadCardsRequested{*this};
+
+private:
+    const ObjectDescription& description() const noexcept override { return Description; }
+
+    void chkXButton_Click();
+    void cmdLoadCards_Click();
+    void GamingCardButtons_Click(Integer& Index, Integer& Value);
+
+    // clang-format off
+    static SSCheck::Design closeBox(Integer Index, Single Left, Integer TabIndex) {
+        return {.Name = u"chkXButton", .Index = Index, .Left = Left, .Top = 15, .Width = 195, .Height = 195,
+                .TabIndex = TabIndex, .ZOrder = 1};
+    }
+    ControlArray<SSCheck, 2> chkXButton{userControl, {
+        closeBox(1,   15, 5),
+        closeBox(0, 1935, 4)},
+        calls<&GamingCardSelection::chkXButton_Click>(this)};
+
+    CommandButton cmdLoadCards{userControl, {
+        .Name = u"cmdLoadCards", .Left = 480, .Top = 735, .Width = 1215, .Height = 495, .Caption = u"Load Cards",
+        .Font = {.Name = u"Comic Sans MS", .Size = 9.75F, .Weight = 700, .Italic = true},
+        .Visible = false, .TabIndex = 6},
+        calls<&GamingCardSelection::cmdLoadCards_Click>(this)};
+
+    SSPanel SSPanel1{userControl, {
+        .Name = u"SSPanel1", .Left = 105, .Top = 0, .Width = 1950, .Height = 735,
+        .BackColor = {0x00A8B090}, .TabIndex = 0}};
+
+    static SSRibbon::Design cardButton(Integer Index, Single Left, const Bitmap& Up, const Bitmap& Down) {
+        return {.Name = u"GamingCardButtons", .Index = Index, .Left = Left, .Top = 120, .Width = 510, .Height = 510,
+                .PictureUp = &Up, .PictureDown = &Down, .BackColor = {0x00A8B090}, .TabIndex = Index};
+    }
+    /// The indexes are the destinations.
+    ControlArray<SSRibbon, 3> GamingCardButtons{SSPanel1, {
+        cardButton(1,  120, discardTrayPicture(Ground::White), discardTrayPicture(Ground::Yellow)),
+        cardButton(2,  720, tablePicture(Ground::White), tablePicture(Ground::Yellow)),
+        cardButton(3, 1320, shoePicture(Ground::White), shoePicture(Ground::Yellow))},
+        calls<&GamingCardSelection::GamingCardButtons_Click>(this)};
+    // clang-format on
+};
+
+} // namespace zilvo
