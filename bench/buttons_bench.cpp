@@ -31,13 +31,11 @@ void putShapeByName(benchmark::State& state) {
     Variant shape(Long{3});
     for (auto _ : state)
         benchmark::DoNotOptimize(object.Invoke(u"GOButtonShape", Access::Put, {&shape, 1}, nullptr));
-    limited(state, 100);
 }
 
 void createAndDestroy(benchmark::State& state, const ClassEntry& entry) {
     for (auto _ : state)
         benchmark::DoNotOptimize(entry.create(libraryModule()));
-    limited(state, 1500);
 }
 
 } // namespace
