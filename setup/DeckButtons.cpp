@@ -122,8 +122,6 @@ void DeckButtons::menuCasinoDefaults_Click(Integer& Index) {
         put_NumberOfDecks(6);
         break;
     case CasinoDeckDefaults::deckdefaultCruiseShips:
-        put_NumberOfDecks(8);
-        break;
     case CasinoDeckDefaults::deckdefaultAustrailia:
         put_NumberOfDecks(8);
         break;

@@ -196,7 +196,8 @@ void SpinCounter::ShowTheCounterValue() {
 }
 
 void SpinCounter::ArrangeTheSpinCounter() {
-    const auto half = static_cast<Single>(roundToInteger(userControl.get_ScaleHeight()) / 2);
+    const Integer innerHeight = roundToInteger(userControl.get_ScaleHeight());
+    const auto half = static_cast<Integer>(innerHeight / 2);
     switch (get_ControlHandedness()) {
     case SpinCounterPossibilities::LeftHandSpinCounter:
         labelCardsInStack.put_Left(LabelBesideSpin);

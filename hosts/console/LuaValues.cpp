@@ -4,7 +4,9 @@
 #include "hosts/console/LuaUserdata.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <map>
 
@@ -44,6 +46,12 @@ T& required(lua_State* L, int index, const std::string& what) {
 
 // Numbers
 
+std::string shownNumber(lua_Number number) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.14g", number);
+    return text.data();
+}
+
 Variant numberToVariant(lua_State* L, int index, const std::string& what, Kind wanted) {
     if (lua_isinteger(L, index)) {
         const lua_Integer number = lua_tointeger(L, index);
@@ -54,8 +62,12 @@ Variant numberToVariant(lua_State* L, int index, const std::string& what, Kind w
         throw Failure(Status::Overflow, what + ": " + std::to_string(number) + " is out of the range of Long");
     }
     const lua_Number number = lua_tonumber(L, index);
+    // A whole number goes whole where one is wanted: a Single does not hold every Long.
+    const auto whole = static_cast<lua_Number>(std::numeric_limits<Long>::max());
+    if ((wanted == Kind::Integer || wanted == Kind::Long) && std::abs(number) <= whole && number == std::floor(number))
+        return static_cast<Long>(number);
     if (!(std::abs(number) <= static_cast<lua_Number>(std::numeric_limits<Single>::max())))
-        throw Failure(Status::Overflow, what + ": " + std::to_string(number) + " is out of the range of Single");
+        throw Failure(Status::Overflow, what + ": " + shownNumber(number) + " is out of the range of Single");
     return static_cast<Single>(number);
 }
 

@@ -34,12 +34,18 @@ ControlHost::ControlHost(Ref<Object> object) : object_(std::move(object)), contr
 }
 
 ControlHost::~ControlHost() {
+    if (gone_) *gone_ = true;
     control_.Close();
 }
 
 void ControlHost::open(const PropertyBag* settings, std::optional<Single> width, std::optional<Single> height) {
     ErrorInfo error;
-    throwUnlessOk(settings ? control_.Load(*settings, &error) : control_.InitNew(&error), error);
+    bool gone = false;
+    gone_ = &gone;
+    const Status status = settings ? control_.Load(*settings, &error) : control_.InitNew(&error);
+    if (gone) return throwUnlessOk(status, error); // an event while loading, and its handler closed the host
+    gone_ = nullptr;
+    throwUnlessOk(status, error);
     live_ = true;
     const Rectangle area = control_.surface().area();
     resize(width.value_or(area.width), height.value_or(area.height));

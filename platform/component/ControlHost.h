@@ -87,6 +87,7 @@ private:
     StandardAmbient ambient_;
     HostExtender extender_{*this};
     bool live_ = false;
+    bool* gone_ = nullptr; ///< told when the host goes away inside open()
     std::vector<String> changes_;
     std::size_t beeps_ = 0;
     std::size_t repaints_ = 0;

@@ -24,13 +24,6 @@ void edges(Painter& painter, const Rectangle& area, Rgb upperLeft, Rgb lowerRigh
     fill(painter, {area.right() - Pixel, area.top, Pixel, area.height - Pixel}, lowerRight);
 }
 
-void bevel(Painter& painter, Rectangle area, Single thickness, Rgb upperLeft, Rgb lowerRight) {
-    for (Single done = 0; done < thickness; done += Pixel) {
-        edges(painter, area, upperLeft, lowerRight);
-        area = area.inset(Pixel);
-    }
-}
-
 /// A disc whose upper left half has one colour and whose lower right half another.
 void disc(Painter& painter, const Rectangle& area, Rgb upperLeft, Rgb lowerRight) {
     painter.ellipse(area, {.fill = lowerRight, .stroke = std::nullopt});
@@ -61,12 +54,12 @@ void captionBeside(Painter& painter, const Rectangle& area, const MarkedLook& lo
 
 } // namespace
 
-void raised(Painter& painter, const Rectangle& area, Single thickness) {
-    bevel(painter, area, thickness, White, Shadow);
+void raised(Painter& painter, const Rectangle& area) {
+    edges(painter, area, White, Shadow);
 }
 
-void sunken(Painter& painter, const Rectangle& area, Single thickness) {
-    bevel(painter, area, thickness, Shadow, White);
+void sunken(Painter& painter, const Rectangle& area) {
+    edges(painter, area, Shadow, White);
 }
 
 void etched(Painter& painter, const Rectangle& area, Single gapFrom, Single gapTo) {
@@ -102,8 +95,9 @@ void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed,
 }
 
 void dim(Painter& painter, const Rectangle& area, Rgb ground) {
-    for (Single left = area.left; left < area.right(); left += 2 * Pixel)
-        fill(painter, {left, area.top, Pixel, area.height}, ground);
+    const auto columns = static_cast<int>(area.width / (2 * Pixel));
+    for (int i = 0; i < columns; ++i)
+        fill(painter, {area.left + static_cast<Single>(2 * i) * Pixel, area.top, Pixel, area.height}, ground);
 }
 
 void arrow(Painter& painter, const Rectangle& area, bool up, bool greyed) {

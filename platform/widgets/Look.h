@@ -15,9 +15,9 @@ inline constexpr Rgb Black{0, 0, 0};
 /// Which side of its caption the square or button of a check box or option button stands on.
 enum class MarkSide : std::uint8_t { Left, Right };
 
-/// A bevel of that thickness along the inside of the area.
-void raised(Painter& painter, const Rectangle& area, Single thickness = TwipsPerPixel);
-void sunken(Painter& painter, const Rectangle& area, Single thickness = TwipsPerPixel);
+/// A bevel of one pixel along the inside of the area.
+void raised(Painter& painter, const Rectangle& area);
+void sunken(Painter& painter, const Rectangle& area);
 /// A groove along the inside of the area, interrupted at the top between the two positions.
 void etched(Painter& painter, const Rectangle& area, Single gapFrom, Single gapTo);
 /// The dotted frame of the widget that has the keyboard.

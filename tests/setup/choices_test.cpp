@@ -255,4 +255,14 @@ TEST(CardShufflingOptions, LoadingSelectsAndReports) {
     }
 }
 
+TEST(CardShufflingOptions, AHandlerMayCloseTheHostWhileLoading) {
+    MemoryPropertyBag settings;
+    settings.set(u"CardShuffleMethod", Integer{2});
+    auto host = std::make_unique<ControlHost>(create<CardShufflingOptions>());
+    host->on(u"CardShuffleMethodChanged", [&](std::span<Variant>) { host.reset(); });
+    host->open(&settings);
+    EXPECT_EQ(host, nullptr);
+    EXPECT_EQ(libraryModule().liveObjects(), 0U);
+}
+
 } // namespace zilvo
