@@ -59,7 +59,7 @@ private:
 Status invoke(Described& target, StringView name, Access how, std::span<Variant> arguments, Variant* result,
               ErrorInfo* error = nullptr) noexcept;
 
-/// A host's way to call: by name, with failures thrown. `c.get(u"Default")`, `c.call(u"Reset")`.
+/// A host's way to call: by name, with failures thrown: `get(*pair, u"Default")`.
 Variant get(Object& object, StringView name);
 void put(Object& object, StringView name, const Variant& value);
 Variant call(Object& object, StringView name, std::span<Variant> arguments = {});

@@ -115,9 +115,11 @@ bool InputRouter::on(const input::PointerUp& event) {
 
 bool InputRouter::on(const input::KeyTyped& event) {
     if (popup_.isOpen()) {
-        if (event.keyAscii == Enter) return choose(popup_.key(input::Key::Enter)), true;
-        if (event.keyAscii == Escape) return choose(popup_.key(input::Key::Escape)), true;
-        return choose(popup_.accessKey(static_cast<char16_t>(event.keyAscii))), true;
+        const auto letter = static_cast<char16_t>(event.keyAscii);
+        choose(event.keyAscii == Enter    ? popup_.key(input::Key::Enter)
+               : event.keyAscii == Escape ? popup_.key(input::Key::Escape)
+                                          : popup_.accessKey(letter));
+        return true;
     }
     Widget* focused = focus();
     const auto surfaces = surfacesFrom(root_, focused);
