@@ -38,7 +38,6 @@ public:
     /// The inner size, in the inner unit.
     Single get_ScaleWidth() const noexcept { return width_ / twipsPerUnit(scaleMode_); }
     Single get_ScaleHeight() const noexcept { return height_ / twipsPerUnit(scaleMode_); }
-    ScaleMode get_ScaleMode() const noexcept { return scaleMode_; }
 
     Ambient& get_Ambient();
     Extender& get_Extender();

@@ -30,7 +30,6 @@ public:
     /// Fails with InUse, and leaves the component loaded, while any object, class factory or event connection of it
     /// is alive.
     void unload();
-    bool isLoaded() const noexcept { return library_ != nullptr; }
 
 private:
     const ComponentModule& module() const;

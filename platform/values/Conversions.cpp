@@ -174,10 +174,6 @@ Integer roundToInteger(Single value, StringView what) {
     return toInteger(Variant(value), what);
 }
 
-Long roundToLong(Single value, StringView what) {
-    return toLong(Variant(value), what);
-}
-
 std::string describe(const Variant& value) {
     const auto kind = toUtf8(nameOf(value.kind()));
     switch (value.kind()) {

@@ -25,7 +25,6 @@ double toNumber(const Variant& value, StringView what = {});
 /// Fails with Overflow outside -32,768 to 32,767.
 Integer narrow(Long value, StringView what = {});
 Integer roundToInteger(Single value, StringView what = {});
-Long roundToLong(Single value, StringView what = {});
 
 /// The value as messages show it: text in quotes, other kinds with their kind's name behind them.
 std::string describe(const Variant& value);

@@ -30,6 +30,7 @@ TEST(PropertyBagRules, AValueEqualToItsDefaultMayBeLeftOut) {
         {Integer{0}, u"", false},
         {Integer{1}, u"1", false},
         {u"", u"", true},
+        {Variant(), Integer{0}, false},
         {u"deck", u"deck", true},
         {u"deck", u"Deck", false},
         {font, StdFont::make({.Name = u"Arial", .Size = 12}), true},

@@ -107,32 +107,6 @@ TEST(Variants, AReferenceReadsAndWritesItsVariable) {
     EXPECT_TRUE(isTrue(seats.At(1)));
 }
 
-TEST(Variants, EqualityByValue) {
-    const auto same = StdFont::make({.Name = u"Arial"});
-    const auto other = StdFont::make({.Name = u"Arial", .Italic = true});
-    struct Case {
-        Variant one, other;
-        bool equal;
-    };
-    const Case cases[] = {
-        {Integer{0}, Long{0}, true},
-        {Integer{360}, 360.0F, true},
-        {true, true, true},
-        {true, Integer{-1}, false},
-        {false, u"", false},
-        {Integer{0}, u"", false},
-        {u"a", u"A", false},
-        {u"", u"", true},
-        {Variant(), Integer{0}, false},
-        {someFont(), same, true},
-        {someFont(), other, false},
-    };
-    for (const Case& tried : cases) {
-        EXPECT_EQ(equalByValue(tried.one, tried.other), tried.equal) << describe(tried.one) << describe(tried.other);
-        EXPECT_EQ(equalByValue(tried.other, tried.one), tried.equal);
-    }
-}
-
 TEST(BooleanArrays, BoundsAndTheirFailures) {
     BooleanArray seats(2, {true, false, true});
     EXPECT_EQ(seats.LowerBound(), 2);
