@@ -16,6 +16,17 @@ inline constexpr LibraryIdentity libraryIdentity{
     .helpString = u"ZILVO: Button Objects (4.45) --- Version 3.0x - 02-23-2009",
 };
 
+inline constexpr std::array<VersionString, 7> versionStrings = {{
+    {u"Comments", u"Zilvo for Blackjack - Button Controls"},
+    {u"ProductName", libraryIdentity.name},
+    {u"FileVersion", u"3.00.0004"},
+    {u"ProductVersion", u"3.00.0004"},
+    {u"InternalName", u"ZilvoButtons-445"},
+    {u"OriginalFilename", u"ZilvoButtons-445.Ocx"},
+    {u"OLESelfRegister", u""}, // its presence says that the component can register itself
+}};
+inline constexpr VersionRecord versionRecord{.version = {3, 0, 0, 4}, .strings = versionStrings};
+
 /// Misc status bits: how a host may treat a control.
 enum MiscStatus : std::uint32_t {
     RecomposeOnResize = 0x1,
@@ -70,12 +81,5 @@ inline constexpr std::array<ClassIdentity, 18> classIdentities = {{
     {u"verticalOK", "{607830C0-E548-41C2-9908-FE2A0C329D84}"_guid, "{D40DEDA7-A5B6-4168-BB27-1504F2740BF9}"_guid,
      "{6DDE63E5-29B3-4863-A915-B34CA3150027}"_guid, 30000, ControlStatus},
 }};
-
-/// The identity of a class of the library; an unknown name does not compile.
-consteval const ClassIdentity& identityOf(StringView className) {
-    for (const ClassIdentity& identity : classIdentities)
-        if (identity.name == className) return identity;
-    throw "no such class";
-}
 
 } // namespace zilvo

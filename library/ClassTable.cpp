@@ -1,3 +1,4 @@
+#include "library/ToolboxPictures.h"
 #include "library/ZilvoButtons.h"
 
 namespace zilvo {
@@ -9,29 +10,25 @@ Ref<Object> creator(ComponentModule& module) {
     return createObject<T>(module);
 }
 
-/// Every class of the library, with its identity, what it publishes and how it is made; in published order.
-constinit const std::array classes = {
-    ClassEntry{identityOf(u"GamingCardSelection"), GamingCardSelection::Description, creator<GamingCardSelection>},
-    ClassEntry{identityOf(u"ssOKCancel"), ssOKCancel::Description, creator<ssOKCancel>},
-    ClassEntry{identityOf(u"StartStopButtons"), StartStopButtons::Description, creator<StartStopButtons>},
-    ClassEntry{identityOf(u"PlayerButtons"), PlayerButtons::Description, creator<PlayerButtons>},
-    ClassEntry{identityOf(u"CardShufflingOptions"), CardShufflingOptions::Description, creator<CardShufflingOptions>},
-    ClassEntry{identityOf(u"PlusMinusButton"), PlusMinusButton::Description, creator<PlusMinusButton>},
-    ClassEntry{identityOf(u"LetterButton"), LetterButton::Description, creator<LetterButton>},
-    ClassEntry{identityOf(u"SpreadSeatButtons"), SpreadSeatButtons::Description, creator<SpreadSeatButtons>},
-    ClassEntry{identityOf(u"paneledGOButton"), paneledGOButton::Description, creator<paneledGOButton>},
-    ClassEntry{identityOf(u"GOButton"), GOButton::Description, creator<GOButton>},
-    ClassEntry{identityOf(u"SitDownButton"), SitDownButton::Description, creator<SitDownButton>},
-    ClassEntry{identityOf(u"SeatCheckBoxes"), SeatCheckBoxes::Description, creator<SeatCheckBoxes>},
-    ClassEntry{identityOf(u"ZilvoButtonGoodies"), ZilvoButtonGoodies::Description, creator<ZilvoButtonGoodies>},
-    ClassEntry{identityOf(u"paneledSeatBoxes"), paneledSeatBoxes::Description, creator<paneledSeatBoxes>},
-    ClassEntry{identityOf(u"SpinCounter"), SpinCounter::Description, creator<SpinCounter>},
-    ClassEntry{identityOf(u"DeckButtons"), DeckButtons::Description, creator<DeckButtons>},
-    ClassEntry{identityOf(u"SwitchCardsButton"), SwitchCardsButton::Description, creator<SwitchCardsButton>},
-    ClassEntry{identityOf(u"verticalOK"), verticalOK::Description, creator<verticalOK>},
-};
+/// Joins each class with its identity, which stands at the same place of the identity table, and its picture.
+template <class... T>
+consteval std::array<ClassEntry, sizeof...(T)> classTable() {
+    static_assert(sizeof...(T) == classIdentities.size());
+    std::size_t at = 0;
+    const auto next = [&]() -> const ClassIdentity& { return classIdentities[at++]; };
+    const auto entry = [](const ClassIdentity& identity, const ObjectDescription& description, auto* create) {
+        return ClassEntry{identity, description, create, toolboxPictureOf(identity)};
+    };
+    return {entry(next(), T::Description, creator<T>)...}; // braces: from left to right
+}
 
-constinit const ComponentDescription description{libraryIdentity, enumerations, classes};
+/// Every class of the library, in published order.
+constexpr auto classes =
+    classTable<GamingCardSelection, ssOKCancel, StartStopButtons, PlayerButtons, CardShufflingOptions, PlusMinusButton,
+               LetterButton, SpreadSeatButtons, paneledGOButton, GOButton, SitDownButton, SeatCheckBoxes,
+               ZilvoButtonGoodies, paneledSeatBoxes, SwitchCardsButton, SpinCounter, DeckButtons, verticalOK>();
+
+constexpr ComponentDescription description{libraryIdentity, versionRecord, enumerations, classes};
 
 } // namespace
 

@@ -42,14 +42,6 @@ Json eventJson(const EventDescription& event) {
     return {{"id", event.number}, {"name", toUtf8(event.name)}, {"arguments", argumentsOf(event.arguments(), true)}};
 }
 
-std::string interfaceName(const ClassEntry& entry) {
-    return "_" + toUtf8(entry.identity.name);
-}
-
-std::string eventInterfaceName(const ClassEntry& entry) {
-    return "__" + toUtf8(entry.identity.name);
-}
-
 Json classJson(const ComponentDescription& component, const ClassEntry& entry) {
     const ClassIdentity& identity = entry.identity;
     Json members = Json::array();
@@ -60,7 +52,9 @@ Json classJson(const ComponentDescription& component, const ClassEntry& entry) {
         Json list = Json::array();
         for (const EventDescription& event : entry.description.events)
             list.push_back(eventJson(event));
-        events = {{"name", eventInterfaceName(entry)}, {"id", identity.eventInterfaceId->text()}, {"members", list}};
+        events = {{"name", toUtf8(eventInterfaceNameOf(identity))},
+                  {"id", identity.eventInterfaceId->text()},
+                  {"members", list}};
     }
     return {
         {"name", toUtf8(identity.name)},
@@ -68,7 +62,8 @@ Json classJson(const ComponentDescription& component, const ClassEntry& entry) {
         {"progId", toUtf8(progIdOf(component.library, identity))},
         {"bitmap", identity.toolboxBitmap ? Json(*identity.toolboxBitmap) : Json()},
         {"miscStatus", identity.miscStatus ? Json(*identity.miscStatus) : Json()},
-        {"interface", {{"name", interfaceName(entry)}, {"id", identity.interfaceId.text()}, {"members", members}}},
+        {"interface",
+         {{"name", toUtf8(interfaceNameOf(identity))}, {"id", identity.interfaceId.text()}, {"members", members}}},
         {"events", events},
     };
 }
@@ -78,10 +73,6 @@ Json enumerationJson(const EnumerationDescription& enumeration) {
     for (const EnumerationMember& member : enumeration.members)
         members.push_back({{"name", toUtf8(member.name)}, {"value", member.value}});
     return {{"name", toUtf8(enumeration.name)}, {"id", enumeration.id.text()}, {"members", members}};
-}
-
-std::string versionOf(const LibraryIdentity& library) {
-    return std::to_string(library.majorVersion) + "." + std::to_string(library.minorVersion);
 }
 
 bool uses(const ClassEntry& entry, const EnumerationDescription& enumeration) {
@@ -131,11 +122,11 @@ void writeClass(std::ostream& out, const ComponentDescription& component, const 
     out << "  ProgID " << toUtf8(progIdOf(component.library, identity)) << '\n';
     if (identity.toolboxBitmap) out << "  toolbox bitmap " << *identity.toolboxBitmap << '\n';
     if (identity.miscStatus) out << "  misc status " << hexadecimal(*identity.miscStatus) << '\n';
-    out << "  interface " << interfaceName(entry) << ' ' << identity.interfaceId.text() << '\n';
+    out << "  interface " << toUtf8(interfaceNameOf(identity)) << ' ' << identity.interfaceId.text() << '\n';
     for (const MemberDescription& member : entry.description.members)
         out << "    " << hexadecimal(std::bit_cast<std::uint32_t>(member.id)) << ' ' << memberText(member) << '\n';
     if (!identity.eventInterfaceId) return;
-    out << "  events " << eventInterfaceName(entry) << ' ' << identity.eventInterfaceId->text() << '\n';
+    out << "  events " << toUtf8(eventInterfaceNameOf(identity)) << ' ' << identity.eventInterfaceId->text() << '\n';
     for (const EventDescription& event : entry.description.events)
         out << "    " << event.number << ' ' << toUtf8(event.name) << signature(event.arguments(), true) << '\n';
 }

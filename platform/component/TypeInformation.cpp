@@ -25,4 +25,16 @@ String progIdOf(const LibraryIdentity& library, const ClassIdentity& identity) {
     return String(library.name) + u"." + String(identity.name);
 }
 
+String interfaceNameOf(const ClassIdentity& identity) {
+    return u"_" + String(identity.name);
+}
+
+String eventInterfaceNameOf(const ClassIdentity& identity) {
+    return u"__" + String(identity.name);
+}
+
+std::string versionOf(const LibraryIdentity& library) {
+    return std::to_string(library.majorVersion) + "." + std::to_string(library.minorVersion);
+}
+
 } // namespace zilvo::platform

@@ -68,7 +68,7 @@ struct ClassIdentity {
     std::optional<Integer> toolboxBitmap;
     std::optional<std::uint32_t> miscStatus;
 
-    bool isControl() const noexcept { return eventInterfaceId.has_value(); }
+    constexpr bool isControl() const noexcept { return eventInterfaceId.has_value(); }
 };
 
 struct LibraryIdentity {
@@ -80,16 +80,32 @@ struct LibraryIdentity {
     StringView helpString;
 };
 
+struct VersionString {
+    StringView key;
+    StringView value;
+};
+
+/// What a component file says of its own version, in US English.
+struct VersionRecord {
+    /// Of the file and of the product: 3.0.0.4.
+    std::array<std::uint16_t, 4> version;
+    std::span<const VersionString> strings;
+};
+
+struct ToolboxPicture;
+
 /// A class of a component: who it is, what it publishes and how an instance is made.
 struct ClassEntry {
     const ClassIdentity& identity;
     const ObjectDescription& description;
     Ref<Object> (*create)(ComponentModule& module);
+    const ToolboxPicture* toolboxPicture = nullptr; ///< null for a class that is no control
 };
 
 /// All that a component publishes. A host reads it through the runtime without creating any object.
 struct ComponentDescription {
     const LibraryIdentity& library;
+    const VersionRecord& version;
     std::span<const EnumerationDescription* const> enumerations;
     std::span<const ClassEntry> classes;
 
@@ -100,5 +116,10 @@ struct ComponentDescription {
 
 /// The library name, a full stop and the class name.
 String progIdOf(const LibraryIdentity& library, const ClassIdentity& identity);
+/// The class name behind one leading underscore; behind two.
+String interfaceNameOf(const ClassIdentity& identity);
+String eventInterfaceNameOf(const ClassIdentity& identity);
+/// "10.0"
+std::string versionOf(const LibraryIdentity& library);
 
 } // namespace zilvo::platform

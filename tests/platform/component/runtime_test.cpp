@@ -136,7 +136,7 @@ TEST(Runtime, FilesThatAreNoComponent) {
 
 TEST(Runtime, TheClassObjectEntryAnswersForUnknownIds) {
     void* object = &object;
-    const auto& known = identityOf(u"ssOKCancel").classId;
+    const auto& known = libraryModule().description().find(u"ssOKCancel")->identity.classId;
     EXPECT_EQ(getClassObject(libraryModule(), InformationInterface, ClassFactoryInterface, &object),
               Status::ClassNotAvailable);
     EXPECT_EQ(object, nullptr);

@@ -15,6 +15,8 @@ constexpr LibraryIdentity identity{
     .helpString = u"Every kind of widget, member and event",
 };
 
+constexpr VersionRecord version{.version = {1, 2, 0, 0}, .strings = {}};
+
 // clang-format off
 constexpr ClassIdentity widgetGallery{
     u"WidgetGallery", "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20010}"_guid, "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20011}"_guid,
@@ -44,7 +46,7 @@ constinit const std::array classes = {
     ClassEntry{galleryFunctions, GalleryFunctions::Description, creator<GalleryFunctions>},
 };
 
-constinit const ComponentDescription component{identity, enumerationsOfGallery, classes};
+constinit const ComponentDescription component{identity, version, enumerationsOfGallery, classes};
 
 } // namespace
 
