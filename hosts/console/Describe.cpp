@@ -84,18 +84,6 @@ bool uses(const ClassEntry& entry, const EnumerationDescription& enumeration) {
     });
 }
 
-template <class Visit>
-void forEachEnumeration(const ComponentDescription& component, const ClassEntry* only, const Visit& visit) {
-    for (const EnumerationDescription* enumeration : component.enumerations)
-        if (!only || uses(*only, *enumeration)) visit(*enumeration);
-}
-
-template <class Visit>
-void forEachClass(const ComponentDescription& component, const ClassEntry* only, const Visit& visit) {
-    for (const ClassEntry& entry : component.classes)
-        if (!only || only == &entry) visit(entry);
-}
-
 std::string signature(std::span<const ArgumentDescription> arguments, bool allByReference) {
     std::string text = "(";
     for (const ArgumentDescription& argument : arguments) {
@@ -133,12 +121,30 @@ void writeClass(std::ostream& out, const ComponentDescription& component, const 
 
 } // namespace
 
+std::vector<const EnumerationDescription*> enumerationsOf(const ComponentDescription& component,
+                                                          const ClassEntry* only) {
+    std::vector<const EnumerationDescription*> chosen;
+    for (const EnumerationDescription* enumeration : component.enumerations)
+        if (!only || uses(*only, *enumeration)) chosen.push_back(enumeration);
+    return chosen;
+}
+
+std::vector<const ClassEntry*> classesOf(const ComponentDescription& component, const ClassEntry* only) {
+    if (only) return {only};
+    std::vector<const ClassEntry*> all;
+    for (const ClassEntry& entry : component.classes)
+        all.push_back(&entry);
+    return all;
+}
+
 Json description(const ComponentDescription& component, const ClassEntry* only) {
     const LibraryIdentity& library = component.library;
     Json enumerations = Json::array();
-    forEachEnumeration(component, only, [&](const auto& each) { enumerations.push_back(enumerationJson(each)); });
+    for (const EnumerationDescription* enumeration : enumerationsOf(component, only))
+        enumerations.push_back(enumerationJson(*enumeration));
     Json classes = Json::array();
-    forEachClass(component, only, [&](const auto& each) { classes.push_back(classJson(component, each)); });
+    for (const ClassEntry* entry : classesOf(component, only))
+        classes.push_back(classJson(component, *entry));
     return {{"library",
              {{"name", toUtf8(library.name)},
               {"id", library.id.text()},
@@ -154,12 +160,13 @@ std::string descriptionText(const ComponentDescription& component, const ClassEn
     std::ostringstream out;
     out << "library " << toUtf8(library.name) << ' ' << versionOf(library) << ' ' << library.id.text() << ", locale "
         << library.locale << "\n  " << toUtf8(library.helpString) << '\n';
-    forEachEnumeration(component, only, [&](const EnumerationDescription& enumeration) {
-        out << "\nenumeration " << toUtf8(enumeration.name) << ' ' << enumeration.id.text() << '\n';
-        for (const EnumerationMember& member : enumeration.members)
+    for (const EnumerationDescription* enumeration : enumerationsOf(component, only)) {
+        out << "\nenumeration " << toUtf8(enumeration->name) << ' ' << enumeration->id.text() << '\n';
+        for (const EnumerationMember& member : enumeration->members)
             out << "  " << toUtf8(member.name) << " = " << member.value << '\n';
-    });
-    forEachClass(component, only, [&](const ClassEntry& entry) { writeClass(out, component, entry); });
+    }
+    for (const ClassEntry* entry : classesOf(component, only))
+        writeClass(out, component, *entry);
     return out.str();
 }
 

@@ -17,6 +17,13 @@ Json description(const platform::ComponentDescription& component, const platform
 std::string descriptionText(const platform::ComponentDescription& component,
                             const platform::ClassEntry* only = nullptr);
 
+/// The part of a component that a description of one class shows: the class and the enumerations that it uses. All of
+/// it when `only` is null.
+std::vector<const platform::EnumerationDescription*> enumerationsOf(const platform::ComponentDescription& component,
+                                                                    const platform::ClassEntry* only);
+std::vector<const platform::ClassEntry*> classesOf(const platform::ComponentDescription& component,
+                                                   const platform::ClassEntry* only);
+
 /// One line for each class: name, ProgID, class id.
 std::string classTable(const platform::ComponentDescription& component);
 

@@ -1,5 +1,6 @@
 #include "hosts/console/LuaControl.h"
 
+#include "hosts/console/Files.h"
 #include "hosts/console/LuaErrors.h"
 #include "hosts/console/LuaEvents.h"
 #include "hosts/console/LuaParts.h"

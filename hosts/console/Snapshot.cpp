@@ -4,9 +4,6 @@
 #include "platform/painting/SvgPainter.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fstream>
-#include <unistd.h>
 
 namespace zilvo::console {
 
@@ -50,18 +47,6 @@ private:
     unsigned depth_ = 0;
 };
 
-[[noreturn]] void fail(const std::filesystem::path& file, const std::string& why) {
-    throw Failure(Status::Failed, file.string() + " cannot be written: " + why);
-}
-
-void write(const std::filesystem::path& target, const std::string& text, const std::filesystem::path& named) {
-    errno = 0;
-    std::ofstream out(target, std::ios::binary | std::ios::trunc);
-    out << text;
-    out.close();
-    if (!out) fail(named, errno ? std::generic_category().message(errno) : "writing failed");
-}
-
 } // namespace
 
 std::string svgOf(ControlHost& host) {
@@ -70,28 +55,6 @@ std::string svgOf(ControlHost& host) {
     SvgPainter painter(extent.right, extent.bottom);
     host.paint(painter);
     return painter.document();
-}
-
-void writeFile(const std::filesystem::path& file, const std::string& text) {
-    std::error_code error;
-    const auto existing = std::filesystem::status(file, error);
-    if (std::filesystem::is_directory(existing)) fail(file, "it is a directory");
-    // A device or a pipe is written to; only a file can be replaced.
-    if (std::filesystem::exists(existing) && !std::filesystem::is_regular_file(existing))
-        return write(file, text, file);
-
-    // A link stays, and what it names is replaced.
-    auto target = std::filesystem::exists(existing) ? std::filesystem::canonical(file, error) : file;
-    if (error) target = file;
-    const auto partial = std::filesystem::path(target) += "." + std::to_string(getpid()) + ".part";
-    try {
-        write(partial, text, file);
-        std::filesystem::rename(partial, target, error);
-        if (error) fail(file, error.message());
-    } catch (const Failure&) {
-        std::filesystem::remove(partial, error);
-        throw;
-    }
 }
 
 } // namespace zilvo::console

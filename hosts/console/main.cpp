@@ -1,7 +1,10 @@
 #include "hosts/console/Component.h"
+#include "hosts/console/Files.h"
 #include "hosts/console/Gallery.h"
+#include "hosts/console/Idl.h"
 #include "hosts/console/Inspect.h"
 #include "hosts/console/LuaHost.h"
+#include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
 #include "platform/component/ComponentRuntime.h"
 
@@ -21,9 +24,11 @@ struct CommandLine {
     std::vector<std::string> script; ///< the file, then its arguments
     std::string className;
     std::vector<std::string> classNames;
+    std::vector<std::string> resourceNames;
     std::filesystem::path directory;
     std::filesystem::path picture;
     bool json = false;
+    bool idl = false;
 };
 
 int run(const CommandLine& given, const LoadedComponent& component) {
@@ -47,6 +52,8 @@ int describe(const CommandLine& given, const LoadedComponent& component) {
     const ClassEntry* only = given.className.empty() ? nullptr : &findClass(description, given.className);
     if (given.json)
         std::cout << console::description(description, only).dump(2) << '\n';
+    else if (given.idl)
+        std::cout << interfaceDefinition(description, only);
     else
         std::cout << descriptionText(description, only);
     return 0;
@@ -68,11 +75,7 @@ void snapshotOf(const ClassEntry& entry, const CommandLine& given, const LoadedC
 
 /// What fails is told and does not keep the others from being written.
 int snapshot(const CommandLine& given, const LoadedComponent& component) {
-    std::error_code error;
-    std::filesystem::create_directories(given.directory, error);
-    if (error)
-        throw Failure(Status::Failed,
-                      "the directory " + given.directory.string() + " cannot be made: " + error.message());
+    makeDirectory(given.directory);
     int status = 0;
     const auto attempt = [&](const auto& body) {
         try {
@@ -95,6 +98,14 @@ int snapshot(const CommandLine& given, const LoadedComponent& component) {
 
 int gallery(const CommandLine& given, const LoadedComponent& component) {
     writeFile(given.picture, galleryOf(component));
+    return 0;
+}
+
+int resources(const CommandLine& given, const LoadedComponent& component) {
+    if (given.directory.empty())
+        std::cout << resourceTable(component.description());
+    else
+        extractResources(component.description(), given.resourceNames, given.directory);
     return 0;
 }
 
@@ -132,7 +143,8 @@ int start(int argc, char** argv) {
     add("list", "lists the classes: name, ProgID, class id", list);
     CLI::App* describes = add("describe", "writes the type description", describe);
     describes->add_option("class", given.className, "one class only")->type_name("CLASS");
-    describes->add_flag("--json", given.json, "as JSON");
+    CLI::Option* asJson = describes->add_flag("--json", given.json, "as JSON");
+    describes->add_flag("--idl", given.idl, "in the interface definition language")->excludes(asJson);
     CLI::App* inspects = add("inspect", "writes the widget tree of a fresh instance", inspect);
     inspects->add_option("class", given.className, "the class")->type_name("CLASS")->required();
     inspects->add_flag("--json", given.json, "as JSON");
@@ -141,6 +153,11 @@ int start(int argc, char** argv) {
     snapshots->add_option("-o,--output", given.directory, "where the files go")->type_name("DIR")->required();
     CLI::App* galleries = add("gallery", "draws all controls into one SVG file", gallery);
     galleries->add_option("picture", given.picture, "the file")->type_name("FILE.svg")->required();
+    CLI::App* resourcesListed =
+        add("resources", "lists the bitmaps, interface ids and version record, or extracts them", resources);
+    CLI::Option* into =
+        resourcesListed->add_option("-o,--output", given.directory, "where their files go")->type_name("DIR");
+    resourcesListed->add_option("names", given.resourceNames, "which ones, if not all")->type_name("NAME")->needs(into);
 
     try {
         app.parse(argc, argv);

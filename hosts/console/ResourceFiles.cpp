@@ -1,0 +1,50 @@
+#include "hosts/console/ResourceFiles.h"
+
+#include "hosts/console/Files.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <sstream>
+
+namespace zilvo::console {
+
+using namespace platform;
+
+namespace {
+
+std::string fileName(const Resource& resource) {
+    const std::string type = toUtf8(resource.type);
+    return type + "-" + toUtf8(resource.name) + (type == "BITMAP" ? ".dib" : ".bin");
+}
+
+} // namespace
+
+std::string resourceTable(const ComponentDescription& component) {
+    std::ostringstream out;
+    for (const Resource& resource : resourcesOf(component))
+        out << std::left << std::setw(8) << toUtf8(resource.type) << std::setw(30) << toUtf8(resource.name)
+            << std::right << std::setw(4) << resource.bytes.size() << " bytes\n";
+    for (const VersionString& string : component.version.strings)
+        out << "        " << toUtf8(string.key) << " = " << toUtf8(string.value) << '\n';
+    return out.str();
+}
+
+void extractResources(const ComponentDescription& component, const std::vector<std::string>& names,
+                      const std::filesystem::path& directory) {
+    const std::vector<Resource> resources = resourcesOf(component);
+    std::vector<const Resource*> chosen;
+    for (const Resource& resource : resources)
+        if (names.empty()) chosen.push_back(&resource);
+    for (const std::string& name : names) {
+        const auto at = std::ranges::find_if(
+            resources, [&](const Resource& resource) { return sameName(resource.name, toUtf16(name)); });
+        if (at == resources.end())
+            throw Failure(Status::Failed, toUtf8(component.library.name) + " has no resource " + name);
+        chosen.push_back(&*at);
+    }
+    makeDirectory(directory);
+    for (const Resource* resource : chosen)
+        writeFile(directory / fileName(*resource), std::string(resource->bytes.begin(), resource->bytes.end()));
+}
+
+} // namespace zilvo::console
