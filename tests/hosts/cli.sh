@@ -73,6 +73,17 @@ expect 1 'Nothing' describe Nothing
 expect 0 'cmdOK: CommandButton .*disabled' inspect ssOKCancel
 expect 0 '^  "class": "ssOKCancel",$' inspect ssOKCancel --json
 expect 1 'Nothing' inspect Nothing
+expect 0 '^BITMAP  30016  *760 bytes$' resources
+expect 0 '^VERSION 1  *[0-9]* bytes$' resources
+expect 0 '' resources -o "$work/resources"
+[ "$(find "$work/resources" -name 'BITMAP-*.dib' -size 760c | wc -l)" -eq 17 ] || complain "not the seventeen bitmaps"
+[ "$(find "$work/resources" -name 'RCDATA-*' -size 20c | wc -l)" -eq 35 ] || complain "not the interface ids"
+expect 0 '' resources _iid_ssokcancel -o "$work/one"
+[ "$(od -An -tx1 "$work/one/RCDATA-_IID_SSOKCANCEL.bin" | tr -d ' \n')" = 10000000957c213810631c4fba9fb9205b4221c4 ] ||
+    complain "another interface id"
+expect 1 'nothing' resources 30015 nothing -o "$work/none"
+[ ! -e "$work/none" ] || complain "resources in spite of an unknown one"
+expect misuse 'Usage' resources 30015
 
 # Pictures: an unknown class is named and does not keep the others from being drawn.
 expect 0 '' snapshot ssOKCancel -o "$work/new/folder"
