@@ -162,7 +162,8 @@ public:
     virtual bool isInGroupWith(const Widget& /*other*/) const noexcept { return false; }
     void setFocused(bool focused) noexcept;
     void setPressed(bool pressed) noexcept;
-    bool isFocused() const noexcept { return focused_; }
+    /// One that was disabled or hidden from code no longer shows the focus; the keyboard goes on with the next input.
+    bool isFocused() const noexcept { return focused_ && acceptsInput(); }
     bool isPressed() const noexcept { return pressed_; }
 
     /// Draws the widget into its own area, without its children. Never changes state.

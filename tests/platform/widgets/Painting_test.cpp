@@ -41,6 +41,17 @@ TEST(WidgetPainting, EachStateOfEachKindLooksDifferent) {
     }
 }
 
+TEST(WidgetPainting, NoFocusShowsOnWhatWasDisabledFromCode) {
+    for (const At& at : {At{u"cmdPush", 2}, At{u"chkPick", 0}, At{u"spnCount"}}) {
+        const GalleryHost plain;
+        plain.put(at, u"Enabled", false);
+        const GalleryHost focused;
+        focused.focusOn(at);
+        focused.put(at, u"Enabled", false);
+        EXPECT_EQ(focused.painted(), plain.painted()) << toUtf8(at.name);
+    }
+}
+
 TEST(WidgetPainting, EachOtherMemberShows) {
     struct Case {
         At at;
