@@ -113,9 +113,12 @@ int widget(lua_State* L) {
     return 1;
 }
 
-/// Two tables: the values, and the names of their kinds.
+/// c:save([keepsDefaults]) gives two tables: the values, and the names of their kinds.
 int save(lua_State* L) {
-    MemoryPropertyBag bag;
+    if (!lua_isnoneornil(L, 2) && !lua_isboolean(L, 2))
+        throw Failure(Status::TypeMismatch, "save: " + shownType(L, 2) + " is no boolean");
+    using Defaults = MemoryPropertyBag::Defaults;
+    MemoryPropertyBag bag(lua_toboolean(L, 2) ? Defaults::Kept : Defaults::LeftOut);
     hostAt(L, 1).save(bag);
     lua_newtable(L);
     lua_newtable(L);

@@ -56,6 +56,7 @@ equal(c:widget("cmdOK"):spin("up"), false, "spinning a push button")
 
 -- Values that do not fit.
 fails("type mismatch", function() c.OKEnabled = nil end, "ssOKCancel.OKEnabled", "nil")
+fails("type mismatch", function() c:save("all") end, "save", "string")
 fails("type mismatch", function() c.OKEnabled = print end, "ssOKCancel.OKEnabled", "function")
 fails("type mismatch", function() c.OKEnabled = c end, "ssOKCancel.OKEnabled", "control")
 fails("type mismatch", function() c.OKEnabled = "perhaps" end, "ssOKCancel.OKEnabled", "perhaps")

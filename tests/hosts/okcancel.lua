@@ -94,6 +94,7 @@ equal(kinds.ItalicOK, "Boolean")
 equal(bag.OKToolTipText, "Go on")
 equal(kinds.OKToolTipText, "String")
 equal(bag.Default, nil, "a setting that equals its default")
+equal(c:save(true).Default, true, "a setting that equals its default, kept")
 
 local loaded = zilvo.create("ssOKCancel", { bag = bag })
 equal(loaded.OKToolTipText, "Go on")
