@@ -19,6 +19,7 @@ public:
     /// What is none of the six forms fails with InvalidPropertyValue, what is no Integer with Overflow; the form stays.
     void put_GOButtonShape(GOButtonShapePossibilities newButtonShape);
 
+    /// Never raised.
     Event<> WasClicked{*this};
 
 private:

@@ -23,9 +23,13 @@ public:
     /// Overflow.
     void SelectThisButton(GameCardButtonPossibilities& ButtonToSelect);
 
+    /// The player pressed the shoe's button. A second click releases it and raises nothing.
     Event<> CardsToShoeClicked{*this};
+    /// The same for the discard tray's button.
     Event<> CardsToDiscardTrayClicked{*this};
+    /// The same for the table's button.
     Event<> CardsToTableClicked{*this};
+    /// A click on Load Cards, which stays hidden.
     Event<> LoadCardsRequested{*this};
 
 private:

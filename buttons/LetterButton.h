@@ -15,7 +15,7 @@ public:
     explicit LetterButton(ComponentModule& module);
 
     String get_Letter();
-    /// Only the first character of the text is shown.
+    /// Only the first character of the text is taken.
     void put_Letter(const String& LetterNewValue);
     /// Pixels from the control's left edge, rounded; a position that is no Integer fails with Overflow.
     Integer get_LetterLeft();

@@ -21,6 +21,7 @@ public:
     /// Sets the control to adding and raises WasClicked, whatever the mode was.
     void RestartYourself();
 
+    /// Carries the new mode. RestartYourself raises it, too.
     Event<Long> WasClicked{*this};
 
 private:

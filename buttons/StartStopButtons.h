@@ -14,14 +14,21 @@ public:
     static const ObjectDescription Description;
     explicit StartStopButtons(ComponentModule& module);
 
+    /// Enables START, as the default button, and disables STOP. A loaded instance begins so, a new one with both
+    /// enabled.
     void Reset();
+    /// The same as Reset.
     void SetupForStarting();
+    /// A new instance has a tool tip of its own, which is not saved: one that is loaded without any has none.
     String get_StartButtonToolTip();
     void put_StartButtonToolTip(const String& NewTooltipValue);
+    /// As StartButtonToolTip.
     String get_StopButtonToolTip();
     void put_StopButtonToolTip(const String& NewTooltipValue);
 
+    /// START is disabled and STOP enabled by then.
     Event<> StartButtonWasClicked{*this};
+    /// STOP is disabled and START enabled by then.
     Event<> StopButtonWasClicked{*this};
 
 private:

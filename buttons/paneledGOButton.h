@@ -15,9 +15,10 @@ public:
     explicit paneledGOButton(ComponentModule& module);
 
     GOButtonShapePossibilities get_GOButtonShape();
-    /// Fails as the inner button does.
+    /// Fails as in GOButton.
     void put_GOButtonShape(GOButtonShapePossibilities newButtonShape);
 
+    /// Never raised.
     Event<> WasClicked{*this};
 
 private:

@@ -16,21 +16,27 @@ public:
 
     String get_CancelToolTipText();
     void put_CancelToolTipText(const String& CancelToolTipTextNewValue);
+    /// Whether Cancel is the cancel button. Escape raises CancelWasClicked all the same.
     bool get_Cancel();
     void put_Cancel(bool CancelNewValue);
+    /// Whether OK is the default button, which has a heavy frame. Enter raises OKWasClicked all the same.
     bool get_Default();
     void put_Default(bool DefaultNewValue);
     bool get_ItalicCancel();
     void put_ItalicCancel(bool ItalicCancelNewValue);
     bool get_ItalicOK();
     void put_ItalicOK(bool ItalicOKNewValue);
+    /// False at first. Not saved.
     bool get_OKEnabled();
     void put_OKEnabled(bool newEnabledValue);
     String get_OKToolTipText();
     void put_OKToolTipText(const String& OKToolTipTextNewValue);
+    /// Sets Default and Cancel to True without reporting a change.
     void SetDefaultDefaults();
 
+    /// A click on Cancel, or Escape.
     Event<> CancelWasClicked{*this};
+    /// A click on OK, or Enter: that also while OK is disabled.
     Event<> OKWasClicked{*this};
 
 private:

@@ -13,11 +13,12 @@ public:
     static const ObjectDescription Description;
     explicit verticalOK(ComponentModule& module);
 
+    /// "&" marks the letter that is the access key.
     String get_Caption();
     void put_Caption(const String& newCaption);
     /// The button's own font object, shared: a change of a member shows on the button.
     FontRef get_Font();
-    /// The button shares that object from now on. Nothing fails with InvalidPropertyValue.
+    /// The button shares that object from now on. To set none fails with InvalidPropertyValue.
     void put_Font(const FontRef& newFont);
 
     Event<> OKWasClicked{*this};

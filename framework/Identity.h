@@ -29,12 +29,12 @@ inline constexpr VersionRecord versionRecord{.version = {3, 0, 0, 4}, .strings =
 
 /// Misc status bits: how a host may treat a control.
 enum MiscStatus : std::uint32_t {
-    RecomposeOnResize = 0x1,
-    CantLinkInside = 0x10,
-    InsideOut = 0x80,
-    ActivateWhenVisible = 0x100,
-    ActsLikeButton = 0x1000,
-    SetClientSiteFirst = 0x20000,
+    RecomposeOnResize = 0x1,      ///< draws itself anew when its size changes
+    CantLinkInside = 0x10,        ///< no link can lead into it
+    InsideOut = 0x80,             ///< can be active in place while others are, too
+    ActivateWhenVisible = 0x100,  ///< is active whenever it is visible
+    ActsLikeButton = 0x1000,      ///< counts as a push button
+    SetClientSiteFirst = 0x20000, ///< gets its site before its settings
 };
 inline constexpr std::uint32_t ControlStatus =
     RecomposeOnResize | CantLinkInside | InsideOut | ActivateWhenVisible | SetClientSiteFirst;

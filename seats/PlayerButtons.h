@@ -15,11 +15,14 @@ public:
     static const ObjectDescription Description;
     explicit PlayerButtons(ComponentModule& module);
 
-    /// A value that is no seat selects seat 1.
+    /// Selects that seat's button, which raises PlayerSeatSelected unless it is selected already. What is no seat means
+    /// seat 1.
     void SelectButton(Integer& WhichButton);
-    /// Element k enables or disables button k, up to the array's upper bound.
+    /// Element k enables or disables button k, up to the array's upper bound; one beyond 7 fails with
+    /// MissingElement.
     void SetupTheRadioButtons(BooleanArray& RadioButton);
 
+    /// Carries the seat that became selected, by the player or by SelectButton.
     Event<Integer> PlayerSeatSelected{*this};
 
 private:

@@ -10,7 +10,7 @@
 namespace zilvo {
 
 /// The player sees the table's seats as ten numbered check boxes in the shape of the table's arc, in a "Spread To"
-/// frame, his own seat covered by a numbered marker.
+/// frame, the player's own seat covered by a numbered marker.
 /// The host says which seats are free and gets SeatSpreadToWas for every tick (k) and untick (-k). Nothing is saved.
 class SeatCheckBoxes final : public Control {
 public:
@@ -18,12 +18,15 @@ public:
     explicit SeatCheckBoxes(ComponentModule& module);
 
     /// Element k says whether seat k is free; the upper bound is the number of seats. Element 0 is never read.
+    /// The boxes of these seats are shown and unticked, a ticked one with its event.
     void AvailableSeatsAre(BooleanArray& TableSeat);
     /// Places the marker over the player's own seat; a value that is no seat hides it.
     void MySeatIS(SeatSpreadPossibilities MySeatISValue);
+    /// The number of seats: 7 at first, then as AvailableSeatsAre says. Setting it neither shows nor hides a seat.
     SeatSelectionPossibilities get_NumberOfSeatsAllowed();
     void put_NumberOfSeatsAllowed(SeatSelectionPossibilities NumberOfSeats);
 
+    /// Carries k when box k was ticked and -k when it was unticked, by the player or by AvailableSeatsAre.
     Event<Long> SeatSpreadToWas{*this};
 
 private:

@@ -20,11 +20,15 @@ public:
 
     /// Element k says whether seat k is free; the upper bound is the number of seats. Element 0 is never read.
     void AvailableSeatsAre(BooleanArray& TableSeat);
+    /// The number of seats: 7 at first, then as AvailableSeatsAre says. Setting it neither shows nor hides a seat.
     SeatSelectionPossibilities get_NumberOfSeatsAllowed();
     void put_NumberOfSeatsAllowed(SeatSelectionPossibilities NumberOfSeats);
 
+    /// A click on the large button, after the frame has opened or closed.
     Event<> SitdownButtonWasClicked{*this};
+    /// The frame has opened: the host answers with AvailableSeatsAre.
     Event<> TellMeWhichSeatsAreAvailable{*this};
+    /// Carries the seat that the player took, after the frame has closed.
     Event<Long> SeatSelectedWas{*this};
 
 private:

@@ -16,11 +16,15 @@ public:
     static const ObjectDescription Description;
     explicit SpreadSeatButtons(ComponentModule& module);
 
+    /// As in SeatCheckBoxes.
     void AvailableSeatsAre(BooleanArray& TableSeat);
+    /// As in SeatCheckBoxes.
     SeatSelectionPossibilities get_NumberOfSeatsAllowed();
     void put_NumberOfSeatsAllowed(SeatSelectionPossibilities NumberOfSeats);
 
+    /// The button was clicked: the host answers with AvailableSeatsAre.
     Event<> TellMeWhichSeatsAreAvailable{*this};
+    /// As in SeatCheckBoxes.
     Event<Long> SeatSpreadToWas{*this};
 
 private:

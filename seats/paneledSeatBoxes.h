@@ -16,14 +16,19 @@ public:
     static const ObjectDescription Description;
     explicit paneledSeatBoxes(ComponentModule& module);
 
+    /// As in SeatCheckBoxes.
     void AvailableSeatsAre(BooleanArray& TableSeat);
     bool get_DoneButtonIsVisible();
     void put_DoneButtonIsVisible(bool Visibility);
+    /// As in SeatCheckBoxes.
     void MySeatIS(SeatSpreadPossibilities MySeatISValue);
+    /// As in SeatCheckBoxes.
     SeatSelectionPossibilities get_NumberOfSeatsAllowed();
     void put_NumberOfSeatsAllowed(SeatSelectionPossibilities NumberOfSeats);
 
+    /// The boxes stay as they are.
     Event<> DoneButtonWasClicked{*this};
+    /// As in SeatCheckBoxes.
     Event<Long> SeatSpreadToWas{*this};
 
 private:

@@ -17,9 +17,11 @@ public:
     explicit CardShufflingOptions(ComponentModule& module);
 
     GenericCardShufflePossibilities get_CardShuffleMethod();
-    /// A value without an option button is stored all the same, and fails with MissingElement or Overflow.
+    /// Selects the option button, which raises CardShuffleMethodChanged unless it is selected already. A value without
+    /// one is stored all the same, and fails with MissingElement or Overflow.
     void put_CardShuffleMethod(GenericCardShufflePossibilities CardShuffleMethodNewValue);
 
+    /// Carries the method that became selected, by the player or through CardShuffleMethod.
     Event<Integer> CardShuffleMethodChanged{*this};
 
 private:

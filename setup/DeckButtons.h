@@ -18,14 +18,19 @@ public:
     static const ObjectDescription Description;
     explicit DeckButtons(ComponentModule& module);
 
+    /// The count selected last, 1 at first. Resetting the buttons does not change it.
     Integer get_NumberOfDecks();
     /// 0 resets the buttons; a count that there is no button for beeps and changes nothing.
     void put_NumberOfDecks(Integer NewNumberOfDecks);
+    /// WideObject, at first: all ten counts, 7, 9, 10 and 12 greyed. NarrowObject: the other six in two rows.
     ObjectWidthPossibilities get_ObjectWidth();
+    /// WideObject makes the control 8115 twips wide, NarrowObject leaves its width to the host. What is neither is
+    /// stored, but arranges nothing.
     void put_ObjectWidth(ObjectWidthPossibilities NewObjectWidth);
-    /// Leaves 7 and 9, and the stored count, as they are.
+    /// Deselects the buttons, except 7 and 9, without an event.
     void ResetButtons();
 
+    /// Carries the count that became selected, by the player, by the menu or through NumberOfDecks.
     Event<Integer> NumberOfDecksChanged{*this};
 
 private:

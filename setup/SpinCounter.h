@@ -16,25 +16,36 @@ public:
     static const ObjectDescription Description;
     explicit SpinCounter(ComponentModule& module);
 
+    /// Whether the count may be set below 0 and, without NumberWrap, spun below it.
     bool get_AllowNegNumbers();
     void put_AllowNegNumbers(bool AllowNegNumbersNewValue);
+    /// Where the spin button is: left or right of the number, below it (top mount) or above it (bottom mount). What is
+    /// loaded moves nothing until it is set.
     SpinCounterPossibilities get_ControlHandedness();
     /// A value that is no mounting beeps and changes nothing.
     void put_ControlHandedness(SpinCounterPossibilities ControlHandednessNewValue);
+    /// At most MaximumLimit when it is set; below 0 only with AllowNegNumbers.
     Integer get_CounterValue();
     /// A value out of bounds is ignored.
     void put_CounterValue(Integer NewCounterValue);
     FontRef get_Font();
+    /// The number shares that object from now on. To set none fails with InvalidPropertyValue.
     void putref_Font(FontRef New_Font);
+    /// The end of spinning up. A count above a new limit stays.
     Integer get_MaximumLimit();
     /// A value outside 1 to 999 is ignored.
     void put_MaximumLimit(Integer NewMaximumLimit);
+    /// Whether a spin down from 0 goes to MaximumLimit. Not saved.
     bool get_NumberWrap();
     void put_NumberWrap(bool NumberWrapNewValue);
+    /// Makes the control 360 twips high.
     void ResetSizeToDefault();
+    /// Always False.
     bool get_UseDefaultSize();
+    /// True does what ResetSizeToDefault does.
     void put_UseDefaultSize(bool DefaultSizeIndicated);
 
+    /// Carries the count. A spin at a bound raises it, too, and so does setting the count that there is.
     Event<Integer> CounterValueHasChanged{*this};
 
 private:
