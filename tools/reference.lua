@@ -177,7 +177,8 @@ local function addEvents(page, class)
 end
 
 local function shownFont(font)
-    return string.format("%s %g%s%s", font.Name, font.Size, font.Bold and ", bold" or "", font.Italic and ", italic" or "")
+    local style = (font.Bold and ", bold" or "") .. (font.Italic and ", italic" or "")
+    return string.format("%s %g%s", font.Name, font.Size, style)
 end
 
 local function shownValue(value, kind)
@@ -230,7 +231,8 @@ end
 local function addClasses(page)
     page:table("class", "ProgID", "what it is")
     for _, class in ipairs(component.classes) do
-        page:row(string.format("[%s](%s.md)", class.name, class.name), "`" .. class.progId .. "`", purposeOf(class.name))
+        local link = string.format("[%s](%s.md)", class.name, class.name)
+        page:row(link, "`" .. class.progId .. "`", purposeOf(class.name))
     end
 end
 
