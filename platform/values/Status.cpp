@@ -33,6 +33,10 @@ const char* nameOf(Status status) noexcept {
         return "in use";
     case Status::ClassNotAvailable:
         return "class not available";
+    case Status::RegistrationsUnreadable:
+        return "registrations unreadable";
+    case Status::RegistrationsUnwritable:
+        return "registrations unwritable";
     case Status::Overflow:
         return "overflow";
     case Status::SubscriptOutOfRange:

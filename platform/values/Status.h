@@ -21,6 +21,8 @@ enum class Status : std::uint32_t {
     BadComponent = 0x800700C1,
     InUse = 0x800700AA,
     ClassNotAvailable = 0x80040111,
+    RegistrationsUnreadable = 0x80040150,
+    RegistrationsUnwritable = 0x80040151,
     Overflow = 0x800A0006,
     SubscriptOutOfRange = 0x800A0009,
     TypeMismatch = 0x800A000D,
