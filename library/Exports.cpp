@@ -1,19 +1,30 @@
-#include "library/ZilvoButtons.h"
+#include "platform/component/ClassFactory.h"
+#include "platform/component/SelfRegistration.h"
 
-/// The component's entry points, each of which hands the request to the platform together with the class table.
+/// The entry points of every component, each of which hands the request to the platform together with the module.
 
 namespace {
 
-constexpr std::uint32_t code(zilvo::Status status) noexcept {
+using namespace zilvo::platform;
+
+constexpr std::uint32_t code(Status status) noexcept {
     return static_cast<std::uint32_t>(status);
 }
 
 } // namespace
 
-extern "C" std::uint32_t DllGetClassObject(const zilvo::Guid* classId, const zilvo::Guid* interfaceId, void** object) {
-    return code(zilvo::getClassObject(zilvo::libraryModule(), *classId, *interfaceId, object));
+extern "C" std::uint32_t DllGetClassObject(const Guid* classId, const Guid* interfaceId, void** object) {
+    return code(getClassObject(componentModule(), *classId, *interfaceId, object));
 }
 
 extern "C" std::uint32_t DllCanUnloadNow() {
-    return code(zilvo::canUnloadNow(zilvo::libraryModule()));
+    return code(canUnloadNow(componentModule()));
+}
+
+extern "C" std::uint32_t DllRegisterServer() {
+    return code(registerServer(componentModule()));
+}
+
+extern "C" std::uint32_t DllUnregisterServer() {
+    return code(unregisterServer(componentModule()));
 }

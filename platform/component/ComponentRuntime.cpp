@@ -48,34 +48,34 @@ void checkIsWhole(const std::filesystem::path& file) {
 }
 
 template <class Entry>
-Entry* entryPoint(void* library, const char* name) noexcept {
-    return reinterpret_cast<Entry*>(dlsym(library, name)); // what dlsym gives has no type
+Entry* entryPoint(void* library, const char* name, const std::filesystem::path& file) {
+    void* entry = dlsym(library, name);
+    if (!entry) refuse(file, std::string("it lacks the entry point ") + name);
+    return reinterpret_cast<Entry*>(entry); // what dlsym gives has no type
 }
 
 } // namespace
 
 LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(std::filesystem::absolute(file)) {
     checkIsWhole(file_);
-    library_ = dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL);
+    library_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
     if (!library_) refuse(file_, dlerror());
-    getClassObject_ = entryPoint<GetClassObjectEntry>(library_, "DllGetClassObject");
-    canUnloadNow_ = entryPoint<CanUnloadNowEntry>(library_, "DllCanUnloadNow");
+    getClassObject_ = entryPoint<GetClassObjectEntry>(library_.get(), "DllGetClassObject", file_);
+    canUnloadNow_ = entryPoint<CanUnloadNowEntry>(library_.get(), "DllCanUnloadNow", file_);
+    registerServer_ = entryPoint<RegistrationEntry>(library_.get(), "DllRegisterServer", file_);
+    unregisterServer_ = entryPoint<RegistrationEntry>(library_.get(), "DllUnregisterServer", file_);
     void* module = nullptr;
-    if (getClassObject_ && canUnloadNow_) getClassObject_(&InformationClass, &InformationInterface, &module);
-    if (!module) {
-        close();
-        refuse(file_, "it lacks the entry points DllGetClassObject and DllCanUnloadNow or the information behind them");
-    }
+    getClassObject_(&InformationClass, &InformationInterface, &module);
+    if (!module) refuse(file_, "it does not tell what it publishes");
     module_ = static_cast<const ComponentModule*>(module);
 }
 
 LoadedComponent::~LoadedComponent() {
-    if (library_ && canUnloadNow_() == static_cast<std::uint32_t>(Status::Ok)) close();
+    if (library_ && canUnloadNow_() != static_cast<std::uint32_t>(Status::Ok)) (void)library_.release();
 }
 
-void LoadedComponent::close() noexcept {
-    dlclose(std::exchange(library_, nullptr));
-    module_ = nullptr;
+void LoadedComponent::Unload::operator()(void* library) const noexcept {
+    dlclose(library);
 }
 
 const ComponentModule& LoadedComponent::module() const {
@@ -83,10 +83,14 @@ const ComponentModule& LoadedComponent::module() const {
     return *module_;
 }
 
-Ref<ClassFactory> LoadedComponent::classFactory(const Guid& classId) const {
+Status LoadedComponent::getClassObject(const Guid& classId, const Guid& interfaceId, void** object) const {
     module();
+    return Status{getClassObject_(&classId, &interfaceId, object)};
+}
+
+Ref<ClassFactory> LoadedComponent::classFactory(const Guid& classId) const {
     void* object = nullptr;
-    const auto status = Status{getClassObject_(&classId, &ClassFactoryInterface, &object)};
+    const Status status = getClassObject(classId, ClassFactoryInterface, &object);
     if (!succeeded(status)) throw Failure(status, file_.string() + " has no class " + classId.text());
     Ref<ClassFactory> factory(*static_cast<ClassFactory*>(object));
     factory->Release(); // the reference that the component gave; `factory` holds its own
@@ -102,12 +106,25 @@ Ref<Object> LoadedComponent::create(StringView className) const {
     return instance;
 }
 
+void LoadedComponent::registerServer() const {
+    module();
+    const Status status{registerServer_()};
+    throwUnlessOk(status, takeRegistrationError());
+}
+
+void LoadedComponent::unregisterServer() const {
+    module();
+    const Status status{unregisterServer_()};
+    throwUnlessOk(status, takeRegistrationError());
+}
+
 void LoadedComponent::unload() {
     module();
     if (canUnloadNow_() != static_cast<std::uint32_t>(Status::Ok))
         throw Failure(Status::InUse, file_.string() + " cannot be unloaded: " + std::to_string(liveObjects()) +
                                          " of its objects are alive, or a class factory or event connection is");
-    close();
+    library_.reset();
+    module_ = nullptr;
 }
 
 } // namespace zilvo::platform

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "platform/component/ClassFactory.h"
+#include "platform/component/SelfRegistration.h"
 
 #include <filesystem>
+#include <memory>
 
 namespace zilvo::platform {
 
@@ -22,10 +24,16 @@ public:
     const ComponentDescription& description() const { return module().description(); }
     std::size_t liveObjects() const { return module().liveObjects(); }
 
+    /// As the component's entry point answers; see getClassObject() in ClassFactory.h.
+    Status getClassObject(const Guid& classId, const Guid& interfaceId, void** object) const;
     /// Fails with ClassNotAvailable.
     Ref<ClassFactory> classFactory(const Guid& classId) const;
     /// Creates an instance by class name, ProgID or class id.
     Ref<Object> create(StringView className) const;
+
+    /// Enters the component into the user's registration store, and takes it out again; see RegistrationStore.
+    void registerServer() const;
+    void unregisterServer() const;
 
     /// Fails with InUse, and leaves the component loaded, while any object, class factory or event connection of it
     /// is alive.
@@ -33,13 +41,18 @@ public:
 
 private:
     const ComponentModule& module() const;
-    void close() noexcept;
+
+    struct Unload {
+        void operator()(void* library) const noexcept;
+    };
 
     std::filesystem::path file_;
-    void* library_ = nullptr;
+    std::unique_ptr<void, Unload> library_;
     const ComponentModule* module_ = nullptr;
     GetClassObjectEntry* getClassObject_ = nullptr;
     CanUnloadNowEntry* canUnloadNow_ = nullptr;
+    RegistrationEntry* registerServer_ = nullptr;
+    RegistrationEntry* unregisterServer_ = nullptr;
 };
 
 } // namespace zilvo::platform

@@ -30,6 +30,9 @@ private:
     std::size_t locks_ = 0;
 };
 
+/// The module of the component that the call is made in. Each component defines it, for its entry points.
+ComponentModule& componentModule() noexcept;
+
 /// Keeps the component loaded as long as it lives.
 class ModuleLock {
 public:

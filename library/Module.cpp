@@ -1,0 +1,5 @@
+#include "library/ZilvoButtons.h"
+
+zilvo::ComponentModule& zilvo::platform::componentModule() noexcept {
+    return zilvo::libraryModule();
+}
