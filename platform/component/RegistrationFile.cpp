@@ -108,7 +108,8 @@ void RegistrationFileLock::replace(std::string_view text) const {
     const FileDescriptor out(open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, UsualMode));
     if (!out.isOpen()) cannotWrite(fresh, reason());
     struct stat earlier {};
-    if (stat(file_.c_str(), &earlier) == 0 && fchmod(out.number(), earlier.st_mode) != 0) cannotWrite(fresh, reason());
+    const bool isNew = stat(file_.c_str(), &earlier) != 0;
+    if (!isNew && fchmod(out.number(), earlier.st_mode & ALLPERMS) != 0) cannotWrite(fresh, reason());
     writeAll(out, text, fresh);
     synchronise(out, fresh);
     if (rename(fresh.c_str(), file_.c_str()) != 0) cannotWrite(file_, reason());

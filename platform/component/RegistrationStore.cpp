@@ -47,8 +47,8 @@ std::filesystem::path RegistrationStore::usualFile() {
     if (const auto file = pathIn(EnvironmentVariable)) return *file;
     if (const auto data = pathIn("XDG_DATA_HOME"); data && data->is_absolute()) return *data / BelowData;
     if (const auto home = pathIn("HOME")) return *home / ".local/share" / BelowData;
-    throw Failure(Status::FileNotFound, std::string("there is no place for registrations: none of ") +
-                                            EnvironmentVariable + ", XDG_DATA_HOME and HOME is set");
+    throw Failure(Status::RegistrationsUnreadable, std::string("there is no place for registrations: none of ") +
+                                                       EnvironmentVariable + ", XDG_DATA_HOME and HOME is set");
 }
 
 Registrations RegistrationStore::read() const {

@@ -7,8 +7,8 @@
 namespace zilvo::platform {
 
 /// The user's registrations, in one file that any number of processes read and change at once. All calls throw
-/// Failures: RegistrationsUnreadable, with the line, for a file that is damaged, newer than this program or no file;
-/// RegistrationsUnwritable where it cannot be replaced. A change that fails leaves the file as it was.
+/// Failures: RegistrationsUnreadable for a file that is damaged, naming the line, that a newer version wrote, or that
+/// is no file; RegistrationsUnwritable where it cannot be replaced. A change that fails leaves the file as it was.
 class RegistrationStore {
 public:
     /// Names another file than the usual one.
@@ -16,8 +16,8 @@ public:
 
     explicit RegistrationStore(const std::filesystem::path& file = usualFile());
 
-    /// $ZILVO_REGISTRATIONS, else $XDG_DATA_HOME/zilvo/registrations, else ~/.local/share/zilvo/registrations. Fails
-    /// with FileNotFound when none of the variables is set.
+    /// $ZILVO_REGISTRATIONS, else $XDG_DATA_HOME/zilvo/registrations, else $HOME/.local/share/zilvo/registrations.
+    /// Fails with RegistrationsUnreadable when none of the variables is set.
     static std::filesystem::path usualFile();
 
     const std::filesystem::path& file() const noexcept { return file_; }

@@ -27,9 +27,9 @@ std::string inQuotes(std::string_view text) {
     return "\"" + std::string(text) + "\"";
 }
 
-std::string hexadecimal(std::uint32_t number, const char* format) {
+std::string hexadecimal(std::uint32_t number, int digits) {
     std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), format, number);
+    std::snprintf(text.data(), text.size(), "%0*X", digits, number);
     return text.data();
 }
 
@@ -54,7 +54,7 @@ std::string escaped(std::string_view bytes) {
         if (isPlain(at))
             text += bytes[at];
         else
-            text += hexadecimal(static_cast<unsigned char>(bytes[at]), "\\x%02X");
+            text += "\\x" + hexadecimal(static_cast<unsigned char>(bytes[at]), 2);
     return text;
 }
 
@@ -137,7 +137,7 @@ bool read(std::string_view text, std::optional<Integer>& bitmap) {
 }
 
 std::string written(const std::optional<std::uint32_t>& miscStatus) {
-    return miscStatus ? hexadecimal(*miscStatus, "0x%08X") : "";
+    return miscStatus ? "0x" + hexadecimal(*miscStatus, 8) : "";
 }
 bool read(std::string_view text, std::optional<std::uint32_t>& miscStatus) {
     if (text.starts_with("0x")) miscStatus = parse<std::uint32_t>(text.substr(2), 16);

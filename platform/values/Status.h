@@ -90,4 +90,12 @@ Status atTheEdge(ErrorInfo* error, const Context& context, const Body& body) noe
 /// The host's side of the edge: throws the Failure that a status stands for; `error` holds its message.
 void throwUnlessOk(Status status, const ErrorInfo& error);
 
+/// Runs `body` and puts the context in front of the message of what it fails with.
+template <class Context, class Body>
+void inContext(const Context& context, const Body& body) {
+    ErrorInfo error;
+    const Status status = atTheEdge(&error, context, body);
+    throwUnlessOk(status, error);
+}
+
 } // namespace zilvo::platform
