@@ -1,24 +1,43 @@
 #include "hosts/console/Component.h"
 
-#include "platform/values/Status.h"
+#include "platform/component/RegistrationStore.h"
+
+#include <algorithm>
 
 namespace zilvo::console {
+
+using namespace platform;
 
 namespace {
 
 constexpr const char* UsualName = "ZilvoButtons-445.Ocx";
 
+std::filesystem::path programFolder() {
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    if (error)
+        throw Failure(Status::FileNotFound, "cannot tell where the program lies (" + error.message() +
+                                                "): name the component with --component FILE");
+    return program.parent_path();
+}
+
 } // namespace
 
 std::filesystem::path componentFile(const std::filesystem::path& named) {
     if (!named.empty()) return named;
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (error)
-        throw platform::Failure(platform::Status::FileNotFound, "cannot tell where the program lies (" +
-                                                                    error.message() +
-                                                                    "): name the component with --component FILE");
-    return program.parent_path() / UsualName;
+    const auto beside = programFolder() / UsualName;
+    if (std::filesystem::exists(beside)) return beside;
+
+    const auto nothing = [&] {
+        return "there is no component: none is named with --component FILE, none lies beside the program, at " +
+               beside.string() + ", and none has been registered with zilvo register FILE";
+    };
+    std::vector<Registration> registrations;
+    inContext(nothing, [&] { registrations = RegistrationStore().read(); });
+    if (registrations.empty()) throw Failure(Status::FileNotFound, nothing());
+    const auto nameOfFile = [](const Registration& each) { return each.file.filename(); };
+    const auto usual = std::ranges::find(registrations, UsualName, nameOfFile);
+    return usual == registrations.end() ? registrations.front().file : usual->file;
 }
 
 } // namespace zilvo::console

@@ -3,6 +3,7 @@
 #include "hosts/console/Files.h"
 #include "hosts/console/LuaErrors.h"
 #include "hosts/console/LuaEvents.h"
+#include "hosts/console/LuaGlobals.h"
 #include "hosts/console/LuaParts.h"
 #include "hosts/console/LuaValues.h"
 #include "hosts/console/LuaWidget.h"
@@ -309,7 +310,8 @@ int createObject(lua_State* L) {
     Options options;
     readOptions(L, 2, options);
 
-    LuaControl control{session.nextNumber(), session.component.create(className), nullptr, {}};
+    LuaControl control{session.nextNumber(), session.components.create(className), nullptr, {}};
+    defineGlobals(L);
     if (control.object->hostedControl()) {
         control.host = std::make_unique<ScriptedControl>(control.object, session);
         for (const auto& [name, value] : options.ambient)

@@ -2,7 +2,9 @@
 
 #include "hosts/console/LuaControl.h"
 #include "hosts/console/LuaErrors.h"
+#include "hosts/console/LuaGlobals.h"
 #include "hosts/console/LuaObject.h"
+#include "hosts/console/LuaUserdata.h"
 #include "hosts/console/LuaValues.h"
 #include "hosts/console/LuaWidget.h"
 
@@ -19,7 +21,7 @@ namespace {
 
 /// zilvo.describe()
 int describeComponent(lua_State* L) {
-    pushJson(L, description(sessionOf(L).component.description()));
+    pushJson(L, description(sessionOf(L).components.main().description()));
     return 1;
 }
 
@@ -68,38 +70,6 @@ void defineHostTable(lua_State* L) {
     lua_setfield(L, -2, "__newindex");
     lua_setmetatable(L, -2);
     lua_setglobal(L, "zilvo");
-}
-
-/// A method of an application object, called without naming an instance.
-int callApplication(lua_State* L) {
-    const auto& entry = *static_cast<const ClassEntry*>(lua_touserdata(L, lua_upvalueindex(1)));
-    const auto& member = *static_cast<const MemberDescription*>(lua_touserdata(L, lua_upvalueindex(2)));
-    return callMember(L, sessionOf(L).application(entry), member, Access::Method, 1);
-}
-
-/// Lua has no pointers to constants.
-template <class T>
-void pushPointer(lua_State* L, const T& object) {
-    lua_pushlightuserdata(L, const_cast<T*>(&object)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
-}
-
-void defineGlobals(lua_State* L) {
-    const ComponentDescription& component = sessionOf(L).component.description();
-    for (const EnumerationDescription* enumeration : component.enumerations)
-        for (const EnumerationMember& member : enumeration->members) {
-            lua_pushinteger(L, member.value);
-            lua_setglobal(L, toUtf8(member.name).c_str());
-        }
-    for (const ClassEntry& entry : component.classes) {
-        if (entry.identity.isControl()) continue;
-        for (const MemberDescription& member : entry.description.members) {
-            if (member.kind != MemberKind::Method) continue;
-            pushPointer(L, entry);
-            pushPointer(L, member);
-            lua_pushcclosure(L, guarded<callApplication>, 2);
-            lua_setglobal(L, toUtf8(member.name).c_str());
-        }
-    }
 }
 
 int openEverything(lua_State* L) {
@@ -187,7 +157,7 @@ std::string errorOf(lua_State* L) {
 
 } // namespace
 
-LuaHost::LuaHost(const LoadedComponent& component) : session_(component), lua_(luaL_newstate()) {
+LuaHost::LuaHost(Components& components) : session_(components), lua_(luaL_newstate()) {
     lua_State* L = lua_.get();
     if (!L) throw Failure(Status::OutOfMemory, "there is no memory for Lua");
     attachSession(L, session_);

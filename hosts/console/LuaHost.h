@@ -11,11 +11,11 @@
 
 namespace zilvo::console {
 
-/// A Lua state with the table `zilvo` and the component's names in it. Closed before the component is
-/// unloaded.
+/// A Lua state with the table `zilvo` and the components' names in it. Closed before the components are unloaded.
 class LuaHost {
 public:
-    explicit LuaHost(const platform::LoadedComponent& component);
+    /// One component at least is loaded.
+    explicit LuaHost(platform::Components& components);
 
     /// Runs a script; gives the program's exit status, an error being written to standard error.
     int run(const std::string& file, const std::vector<std::string>& arguments);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/ComponentRuntime.h"
+#include "platform/component/Components.h"
 
 #include <lua.h>
 
@@ -11,11 +11,14 @@ namespace zilvo::console {
 /// What one Lua state knows of its host. Lives longer than the state.
 class Session {
 public:
-    explicit Session(const platform::LoadedComponent& loaded) : component(loaded) {}
+    explicit Session(platform::Components& hosted) : components(hosted) {}
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    const platform::LoadedComponent& component;
+    /// Creating by name may add to them.
+    platform::Components& components;
+    /// How many of them have their names in the Lua state.
+    std::size_t namedComponents = 0;
     std::size_t beeps = 0;
     /// The Lua thread whose call into the component is running: an event's handler runs on it.
     lua_State* current = nullptr;
@@ -28,9 +31,9 @@ public:
 
     /// The one instance of an application object, whose methods scripts call without naming one; made on
     /// first use.
-    platform::Object& application(const platform::ClassEntry& entry);
-    /// The component's living objects without the application objects above, which no script can let go of.
-    std::size_t aliveForScripts() const { return component.liveObjects() - applications_.size(); }
+    platform::Object& application(const platform::LoadedComponent& component, const platform::ClassEntry& entry);
+    /// The components' living objects without the application objects above, which no script can let go of.
+    std::size_t aliveForScripts() const { return components.liveObjects() - applications_.size(); }
 
 private:
     lua_Integer lastNumber_ = 0;

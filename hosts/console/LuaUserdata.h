@@ -12,6 +12,12 @@
 
 namespace zilvo::console {
 
+/// Pushes the object's address; Lua has no pointers to constants.
+template <class T>
+void pushPointer(lua_State* L, const T& object) {
+    lua_pushlightuserdata(L, const_cast<T*>(&object)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+}
+
 /// A C++ value in a Lua userdata. The finalizer only empties the box, so that a script's own finalizers may
 /// still meet it. A type T says under which name Lua knows it: T::TypeName.
 template <class T>

@@ -4,12 +4,15 @@
 #include "hosts/console/Idl.h"
 #include "hosts/console/Inspect.h"
 #include "hosts/console/LuaHost.h"
+#include "hosts/console/Register.h"
 #include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
-#include "platform/component/ComponentRuntime.h"
+#include "platform/component/Components.h"
+#include "platform/component/RegistrationStore.h"
 
 #include <CLI/CLI.hpp>
 
+#include <cstdlib>
 #include <iostream>
 #include <unistd.h>
 
@@ -21,6 +24,8 @@ using namespace platform;
 
 struct CommandLine {
     std::filesystem::path component;
+    std::filesystem::path registrations;
+    std::filesystem::path file;      ///< to register or unregister
     std::vector<std::string> script; ///< the file, then its arguments
     std::string className;
     std::vector<std::string> classNames;
@@ -31,13 +36,17 @@ struct CommandLine {
     bool idl = false;
 };
 
-int run(const CommandLine& given, const LoadedComponent& component) {
-    LuaHost host(component);
+int run(const CommandLine& given) {
+    Components components;
+    components.add(componentFile(given.component));
+    LuaHost host(components);
     return host.run(given.script.front(), {given.script.begin() + 1, given.script.end()});
 }
 
-int repl(const CommandLine&, const LoadedComponent& component) {
-    LuaHost host(component);
+int repl(const CommandLine& given) {
+    Components components;
+    components.add(componentFile(given.component));
+    LuaHost host(components);
     host.converse(std::cin, isatty(STDIN_FILENO) != 0);
     return 0;
 }
@@ -109,7 +118,23 @@ int resources(const CommandLine& given, const LoadedComponent& component) {
     return 0;
 }
 
-using Command = int(const CommandLine& given, const LoadedComponent& component);
+int registerFile(const CommandLine& given) {
+    std::cout << registerComponent(given.file) << '\n';
+    return 0;
+}
+
+int unregisterFile(const CommandLine& given) {
+    std::cout << unregisterComponent(given.file) << '\n';
+    return 0;
+}
+
+using Command = int(const CommandLine& given);
+
+/// A command on one component.
+template <int (*Does)(const CommandLine& given, const LoadedComponent& component)>
+int onComponent(const CommandLine& given) {
+    return Does(given, LoadedComponent(componentFile(given.component)));
+}
 
 int start(int argc, char** argv) {
     CommandLine given;
@@ -117,11 +142,17 @@ int start(int argc, char** argv) {
     CLI::App app("Hosts the controls of a component without a screen.", "zilvo");
     app.failure_message(CLI::FailureMessage::help);
     app.require_subcommand(1);
-    const auto takesComponent = [&given](CLI::App& where) {
-        where.add_option("--component", given.component, "the component file, if not the one beside the program")
+    const auto takesFiles = [&given](CLI::App& where) {
+        where
+            .add_option("--component", given.component,
+                        "the component file, if not the one beside the program or a registered one")
+            ->type_name("FILE");
+        where
+            .add_option("--registrations", given.registrations,
+                        "the user's registrations, in place of $ZILVO_REGISTRATIONS")
             ->type_name("FILE");
     };
-    takesComponent(app);
+    takesFiles(app);
     const auto add = [&](const char* name, const char* text, Command& does) {
         CLI::App* sub = app.add_subcommand(name, text);
         sub->fallthrough();
@@ -133,40 +164,46 @@ int start(int argc, char** argv) {
     CLI::App* runs = add("run", "runs a host script: run FILE.lua [ARG...]", run);
     runs->prefix_command();
     runs->fallthrough(false);
-    takesComponent(*runs);
+    takesFiles(*runs);
     runs->callback([&] {
         command = run;
         given.script = runs->remaining();
         if (given.script.empty()) throw CLI::RequiredError("FILE.lua");
     });
     add("repl", "reads and runs statements from standard input", repl);
-    add("list", "lists the classes: name, ProgID, class id", list);
-    CLI::App* describes = add("describe", "writes the type description", describe);
+    add("list", "lists the classes: name, ProgID, class id", onComponent<list>);
+    CLI::App* describes = add("describe", "writes the type description", onComponent<describe>);
     describes->add_option("class", given.className, "one class only")->type_name("CLASS");
     CLI::Option* asJson = describes->add_flag("--json", given.json, "as JSON");
     describes->add_flag("--idl", given.idl, "in the interface definition language")->excludes(asJson);
-    CLI::App* inspects = add("inspect", "writes the widget tree of a fresh instance", inspect);
+    CLI::App* inspects = add("inspect", "writes the widget tree of a fresh instance", onComponent<inspect>);
     inspects->add_option("class", given.className, "the class")->type_name("CLASS")->required();
     inspects->add_flag("--json", given.json, "as JSON");
-    CLI::App* snapshots = add("snapshot", "draws new instances into SVG files", snapshot);
+    CLI::App* snapshots = add("snapshot", "draws new instances into SVG files", onComponent<snapshot>);
     snapshots->add_option("classes", given.classNames, "the classes, or all")->type_name("CLASS")->required();
     snapshots->add_option("-o,--output", given.directory, "where the files go")->type_name("DIR")->required();
-    CLI::App* galleries = add("gallery", "draws all controls into one SVG file", gallery);
+    CLI::App* galleries = add("gallery", "draws all controls into one SVG file", onComponent<gallery>);
     galleries->add_option("picture", given.picture, "the file")->type_name("FILE.svg")->required();
-    CLI::App* resourcesListed =
-        add("resources", "lists the bitmaps, interface ids and version record, or extracts them", resources);
+    CLI::App* resourcesListed = add(
+        "resources", "lists the bitmaps, interface ids and version record, or extracts them", onComponent<resources>);
     CLI::Option* into =
         resourcesListed->add_option("-o,--output", given.directory, "where their files go")->type_name("DIR");
     resourcesListed->add_option("names", given.resourceNames, "which ones, if not all")->type_name("NAME")->needs(into);
+
+    const auto takesFile = [&](CLI::App* sub) {
+        sub->add_option("file", given.file, "the component file")->type_name("FILE")->required();
+    };
+    takesFile(add("register", "registers a component, so that its classes are found by name", registerFile));
+    takesFile(add("unregister", "takes a component, even one that is gone, out of the registrations", unregisterFile));
 
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error);
     }
+    if (!given.registrations.empty()) setenv(RegistrationStore::EnvironmentVariable, given.registrations.c_str(), 1);
     try {
-        const LoadedComponent component(componentFile(given.component));
-        return command(given, component);
+        return command(given);
     } catch (const std::exception& exception) {
         std::cerr << "zilvo: " << exception.what() << '\n';
         return 1;

@@ -1,0 +1,64 @@
+#include "hosts/console/LuaGlobals.h"
+
+#include "hosts/console/LuaErrors.h"
+#include "hosts/console/LuaObject.h"
+#include "hosts/console/LuaUserdata.h"
+#include "hosts/console/LuaValues.h"
+
+namespace zilvo::console {
+
+using namespace platform;
+
+namespace {
+
+template <class T>
+const T& upvalue(lua_State* L, int number) {
+    return *static_cast<const T*>(lua_touserdata(L, lua_upvalueindex(number)));
+}
+
+/// A method of an application object, called without naming an instance.
+int callApplication(lua_State* L) {
+    Object& object = sessionOf(L).application(upvalue<LoadedComponent>(L, 1), upvalue<ClassEntry>(L, 2));
+    return callMember(L, object, upvalue<MemberDescription>(L, 3), Access::Method, 1);
+}
+
+/// Pops the value. Goes round the metatable that a script may have given its globals.
+void addGlobal(lua_State* L, StringView name) {
+    lua_pushglobaltable(L);
+    pushText(L, name);
+    if (lua_rawget(L, -2) == LUA_TNIL) {
+        pushText(L, name);
+        lua_pushvalue(L, -4);
+        lua_rawset(L, -4);
+    }
+    lua_pop(L, 3);
+}
+
+void addGlobalsOf(lua_State* L, const LoadedComponent& component) {
+    for (const EnumerationDescription* enumeration : component.description().enumerations)
+        for (const EnumerationMember& member : enumeration->members) {
+            lua_pushinteger(L, member.value);
+            addGlobal(L, member.name);
+        }
+    for (const ClassEntry& entry : component.description().classes) {
+        if (entry.identity.isControl()) continue;
+        for (const MemberDescription& member : entry.description.members) {
+            if (member.kind != MemberKind::Method) continue;
+            pushPointer(L, component);
+            pushPointer(L, entry);
+            pushPointer(L, member);
+            lua_pushcclosure(L, guarded<callApplication>, 3);
+            addGlobal(L, member.name);
+        }
+    }
+}
+
+} // namespace
+
+void defineGlobals(lua_State* L) {
+    Session& session = sessionOf(L);
+    for (; session.namedComponents < session.components.loaded().size(); ++session.namedComponents)
+        addGlobalsOf(L, session.components.loaded()[session.namedComponents]);
+}
+
+} // namespace zilvo::console
