@@ -1,0 +1,412 @@
+#include "library/ZilvoButtons.h"
+#include "platform/component/Components.h"
+#include "platform/component/RegistrationStore.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace zilvo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contentOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void write(const fs::path& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+struct Outcome {
+    Status status = Status::Ok;
+    std::string message;
+
+    bool says(std::string_view part) const { return message.find(part) != std::string::npos; }
+};
+
+template <class Body>
+Outcome outcomeOf(const Body& body) {
+    try {
+        body();
+        return {};
+    } catch (const Failure& failure) {
+        return {failure.status(), failure.what()};
+    }
+}
+
+Guid guid(std::uint32_t number) {
+    return {.data1 = number};
+}
+
+/// A component with a type library of that number and one class and interface for each of `classes`.
+Registration component(const fs::path& file, std::uint32_t library, const std::vector<std::uint32_t>& classes) {
+    Registration made{
+        file, Registration::TypeLibrary{guid(library), u"Lib", "1.0", 0, u"", u"", u"control library"}, {}, {}};
+    for (const auto number : classes) {
+        made.classes.push_back({guid(number), u"C", u"Lib.C", guid(library), "1.0", true, Integer{30000}, 0x20191U});
+        made.interfaces.push_back({guid(number + 1000), u"_C", guid(library), "1.0"});
+    }
+    return made;
+}
+
+std::vector<std::uint32_t> classesOf(const Registration& registration) {
+    std::vector<std::uint32_t> numbers;
+    for (const auto& each : registration.classes)
+        numbers.push_back(each.classId.data1);
+    return numbers;
+}
+
+/// Runs the body in a process of its own, which ends in a signal when it fails.
+template <class Body>
+pid_t inChild(const Body& body) noexcept {
+    const pid_t child = fork();
+    if (child != 0) return child;
+    body();
+    _exit(0);
+}
+
+/// A store of its own for each test, which the environment names.
+class RegistrationTest : public testing::Test {
+protected:
+    RegistrationTest() {
+        fs::create_directories(folder);
+        setenv(RegistrationStore::EnvironmentVariable, file.c_str(), 1);
+    }
+    ~RegistrationTest() override {
+        fs::permissions(folder, fs::perms::owner_all);
+        fs::remove_all(folder);
+    }
+
+    const fs::path folder =
+        fs::canonical(fs::temp_directory_path()) / ("zilvo-registration-" + std::to_string(getpid()));
+    const fs::path file = folder / "registrations";
+    RegistrationStore store{file};
+};
+
+} // namespace
+
+TEST_F(RegistrationTest, WhatAComponentRegisters) {
+    const Registration made = registrationOf(libraryModule().description(), folder / "below/../Z.Ocx");
+    EXPECT_EQ(made.file, folder / "Z.Ocx");
+    EXPECT_EQ(made.library->version, "10.0");
+    EXPECT_EQ(made.library->locale, 0);
+    ASSERT_EQ(made.classes.size(), 18U);
+    EXPECT_EQ(made.classes[1].progId, u"ZILVO_ZilvoButtons.ssOKCancel");
+    EXPECT_FALSE(made.classes[12].isControl) << "ZilvoButtonGoodies";
+    EXPECT_EQ(made.interfaces.size(), 35U);
+
+    store.add(made);
+    const std::string text = contentOf(file);
+    for (const char* line :
+         {"zilvo registrations, format 1\n", "\nlocale = 0\n", "\nhelp directory =\n", "\nflags = control library\n",
+          "\nname = _ssOKCancel\n", "\nname = __ssOKCancel\n", "\nmisc status = 0x00021191\n"})
+        EXPECT_NE(text.find(line), std::string::npos) << line;
+    EXPECT_NE(text.find("\ntoolbox bitmap = " + made.file.string() + ", 30015\n"), std::string::npos);
+    EXPECT_NE(text.find("\nserver = " + made.file.string() + "\n"), std::string::npos);
+}
+
+TEST_F(RegistrationTest, AnyPathAndTextComesBack) {
+    Registration plain = component(folder / "Plain.Ocx", 1, {1});
+    plain.library->helpString = u" \u2660 \\x41 = [x]\nend ";
+    store.add(plain);
+    store.add(component(folder / " a\\b\n[c] = \xFF\xC3 \xC3\xA9\x7F, 1 ", 2, {2}));
+    store.add(component(folder / "\xC3\xA9", 3, {}));
+    const auto read = store.read();
+    ASSERT_EQ(read.size(), 3U);
+    EXPECT_EQ(read[0], plain);
+    EXPECT_EQ(read[1], component(folder / " a\\b\n[c] = \xFF\xC3 \xC3\xA9\x7F, 1 ", 2, {2}));
+    EXPECT_TRUE(store.find(folder / "\xC3\xA9"));
+    EXPECT_EQ(toUtf8(toUtf16(contentOf(file))), contentOf(file)) << "the store is UTF-8";
+}
+
+TEST_F(RegistrationTest, TwiceIsOnce) {
+    EXPECT_FALSE(store.remove(folder / "A.Ocx"));
+    EXPECT_TRUE(fs::is_empty(folder)) << "nothing to forget, nothing to write";
+    store.add(component(folder / "A.Ocx", 1, {1}));
+    store.add(component(folder / "B.Ocx", 2, {2}));
+    struct stat before {
+    }, after{};
+    ASSERT_EQ(stat(file.c_str(), &before), 0);
+    store.add(component(folder / "A.Ocx", 1, {1}));
+    EXPECT_FALSE(store.remove(folder / "C.Ocx"));
+    ASSERT_EQ(stat(file.c_str(), &after), 0);
+    EXPECT_EQ(before.st_ino, after.st_ino) << "not even written anew";
+    EXPECT_TRUE(store.remove(folder / "A.Ocx"));
+    EXPECT_FALSE(store.remove(folder / "A.Ocx"));
+    EXPECT_EQ(store.read(), std::vector{component(folder / "B.Ocx", 2, {2})});
+}
+
+TEST_F(RegistrationTest, ANewcomerTakesOverWhatItRegistersToo) {
+    store.add(component(folder / "A.Ocx", 1, {1, 2}));
+    store.add(component(folder / "B.Ocx", 2, {3}));
+    store.add(component(folder / "C.Ocx", 1, {2, 3}));
+    store.add(component(folder / "D.Ocx", 2, {}));
+    auto read = store.read();
+    ASSERT_EQ(read.size(), 3U) << "B has nothing left";
+    EXPECT_FALSE(read[0].library);
+    EXPECT_EQ(classesOf(read[0]), std::vector{1U});
+    EXPECT_EQ(read[0].interfaces.size(), 1U);
+    EXPECT_EQ(read[0].classes[0].libraryId, guid(1));
+
+    EXPECT_TRUE(store.remove(folder / "C.Ocx"));
+    read = store.read();
+    ASSERT_EQ(read.size(), 2U);
+    EXPECT_EQ(classesOf(read[0]), std::vector{1U}) << "what was taken over is nobody's now";
+
+    store.add(component(folder / "A.Ocx", 3, {4}));
+    read = store.read();
+    EXPECT_EQ(classesOf(read[1]), std::vector{4U}) << "the same file anew";
+
+    // What could not be read again is not written.
+    const auto whole = contentOf(file);
+    const auto doubled = outcomeOf([&] { store.add(component(folder / "E.Ocx", 5, {6, 6})); });
+    EXPECT_TRUE(doubled.says("stands twice")) << doubled.message;
+    EXPECT_EQ(contentOf(file), whole);
+}
+
+TEST_F(RegistrationTest, ADamagedStoreIsRefusedWithItsLineAndLeftAlone) {
+    store.add(component("/A.Ocx", 1, {1}));
+    store.add(component("/B.Ocx", 2, {2}));
+    const std::string whole = contentOf(file);
+    const std::string id = "id = " + guid(1).text();
+    struct Damage {
+        std::string from;
+        std::string to; ///< in place of the first `from`
+        int line;
+        std::string_view says;
+    };
+    const Damage damages[] = {
+        {"format 1", "format 2", 1, "newer version"},
+        {"format 1", "format one", 1, "does not begin"},
+        {whole, "", 1, "does not begin"},
+        {"\nend\n", "\n", 62, "cut short"},
+        {"\nend\n", "\nend", 63, "cut short"},
+        {"\nend\n", "\nend\n\n", 64, "cut short"},
+        {"[class]", "[klass]", 16, "no section [klass]"},
+        {"[component]\nfile = /A.Ocx\n", "", 4, "before any [component]"},
+        {"[class]", "[type library]", 16, "second type library"},
+        {"[class]", "class", 16, "neither"},
+        {"locale = 0", "locale=0", 10, "neither"},
+        {"help directory =", "help directory = ", 12, "neither"},
+        {"name = Lib", "name = Lib ", 8, "neither"},
+        {"name = Lib", "name = Lib\\n", 8, "neither"},
+        {"name = Lib", "name = Lib\\x4", 8, "neither"},
+        {"name = Lib", "name = L\\x69b", 8, "neither"},
+        {"name = Lib", "name = \\xFF", 8, "malformed"},
+        {"name = Lib", "colour = Lib", 6, "lacks the key \"name\""},
+        {"name = Lib", "name = Lib\ncolour = red", 9, "no key \"colour\""},
+        {"name = Lib", "name = Lib\nname = Lib", 9, "\"name\" stands twice"},
+        {"version = 1.0", "version = 1", 9, "malformed"},
+        {"version = 1.0", "version =", 9, "malformed"},
+        {"locale = 0", "locale = 00", 10, "malformed"},
+        {"path = /A.Ocx", "path = /C.Ocx", 14, "is not \"/A.Ocx\""},
+        {"file = /A.Ocx", "file = A.Ocx", 4, "malformed"},
+        {"file = /B.Ocx", "file = /A.Ocx", 34, "stands twice"},
+        {id, "id = {00000001}", 7, "malformed"},
+        {id, "id = " + guid(1).text().substr(1, 36), 7, "malformed"},
+        {"id = " + guid(2).text(), id, 37, "stands twice"},
+        {"control = yes", "control = no", 23, "is not \"yes\""},
+        {"control = yes\n", "", 23, "no key \"toolbox bitmap\""},
+        {"/A.Ocx, 30000", "/B.Ocx, 30000", 24, "malformed"},
+        {"/A.Ocx, 30000", "/A.Ocx, ", 24, "neither"},
+        {"misc status = 0x00020191\n", "", 16, "lacks the key \"misc status\""},
+        {"0x00020191", "0x20191", 25, "malformed"},
+    };
+    for (const Damage& damage : damages) {
+        std::string damaged = whole;
+        ASSERT_NE(damaged.find(damage.from), std::string::npos) << damage.from;
+        write(file, damaged.replace(damaged.find(damage.from), damage.from.size(), damage.to));
+        for (const auto& outcome : {outcomeOf([&] { store.read(); }), outcomeOf([&] { store.remove("/A.Ocx"); }),
+                                    outcomeOf([&] { store.add(component("/C.Ocx", 3, {})); })}) {
+            EXPECT_EQ(outcome.status, Status::RegistrationsUnreadable) << damage.to;
+            EXPECT_TRUE(outcome.says(file.string() + ", line " + std::to_string(damage.line) + ": "))
+                << outcome.message;
+            EXPECT_TRUE(outcome.says(damage.says)) << outcome.message;
+        }
+        EXPECT_EQ(contentOf(file), damaged);
+    }
+    // Cut short anywhere.
+    for (std::size_t length = 0; length < whole.size(); length += 7) {
+        write(file, whole.substr(0, length));
+        EXPECT_EQ(outcomeOf([&] { store.read(); }).status, Status::RegistrationsUnreadable) << length;
+    }
+}
+
+TEST_F(RegistrationTest, WhereItCannotBeReadOrWritten) {
+    const auto adds = [&](const fs::path& where) {
+        return outcomeOf([&] { RegistrationStore(where).add(component("/A.Ocx", 1, {1})); });
+    };
+    EXPECT_EQ(adds(folder).status, Status::RegistrationsUnreadable);
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(adds(folder / "pipe").status, Status::RegistrationsUnreadable);
+    fs::create_symlink("circle", folder / "circle");
+    EXPECT_EQ(adds(folder / "circle").status, Status::RegistrationsUnreadable);
+
+    store.add(component("/B.Ocx", 2, {2}));
+    const std::string whole = contentOf(file);
+    EXPECT_EQ(adds(file / "below").status, Status::RegistrationsUnreadable);
+    for (const fs::path& readOnly : {file, folder}) {
+        const auto usual = fs::status(readOnly).permissions();
+        fs::permissions(readOnly, fs::perms::owner_write, fs::perm_options::remove);
+        const Outcome outcome = adds(file);
+        EXPECT_EQ(outcome.status, Status::RegistrationsUnwritable);
+        EXPECT_TRUE(outcome.says(readOnly.string() + " cannot be written: it is read-only")) << outcome.message;
+        store.add(component("/B.Ocx", 2, {2})); // which changes nothing
+        fs::permissions(readOnly, usual);
+    }
+    EXPECT_EQ(contentOf(file), whole);
+}
+
+TEST_F(RegistrationTest, KeepsLinksAndPermissionsAndReusesWhatWasLeftOver) {
+    const fs::path link = folder / "link";
+    fs::create_symlink("deep/er/store", link);
+    RegistrationStore linked(link);
+    linked.add(component("/A.Ocx", 1, {1}));
+    const fs::path target = folder / "deep/er/store";
+    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
+    write(folder / "deep/er/store.new", std::string(100000, 'x')); // of a writer that was killed
+    linked.add(component("/B.Ocx", 2, {2}));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(RegistrationStore(target).read().size(), 2U);
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(std::distance(fs::directory_iterator(target.parent_path()), {}), 2) << "the store and its lock";
+}
+
+TEST_F(RegistrationTest, ManyProcessesAtOnceLoseNothing) {
+    constexpr std::uint32_t Processes = 8;
+    constexpr std::uint32_t Each = 8;
+    std::vector<pid_t> children;
+    for (std::uint32_t process = 0; process < Processes; ++process) {
+        children.push_back(inChild([&] {
+            for (std::uint32_t i = process * Each + 1; i <= (process + 1) * Each; ++i)
+                store.add(component("/" + std::to_string(i), i, {i}));
+        }));
+    }
+    for (const pid_t child : children) {
+        int status = -1;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(store.read().size(), Processes * Each);
+}
+
+TEST_F(RegistrationTest, AWriterKilledAtAnyMomentLeavesAWholeStore) {
+    store.add(component("/A.Ocx", 1, {1}));
+    for (int round = 0; round < 60; ++round) {
+        const pid_t writer = inChild([&] {
+            for (std::uint32_t i = 2;; i = 5 - i) // 2, 3, 2, ...
+                store.add(component("/B.Ocx", i, {i, i + 2}));
+        });
+        std::this_thread::sleep_for(std::chrono::microseconds(300 + round * 137));
+        kill(writer, SIGKILL);
+        waitpid(writer, nullptr, 0);
+        const auto read = store.read();
+        ASSERT_GE(read.size(), 1U);
+        EXPECT_EQ(read[0], component("/A.Ocx", 1, {1}));
+    }
+    EXPECT_LE(std::distance(fs::directory_iterator(folder), {}), 3) << "the store, its lock and one left over";
+    store.add(component("/C.Ocx", 7, {7}));
+}
+
+TEST_F(RegistrationTest, TheUsualPlace) {
+    struct Place {
+        const char* named;
+        const char* data;
+        const char* home;
+        const char* expected; ///< null for a failure
+    };
+    const std::string oldHome = getenv("HOME") ? getenv("HOME") : "";
+    const auto set = [](const char* name, const char* value) { value ? setenv(name, value, 1) : unsetenv(name); };
+    for (const Place& place : {Place{"/r", "/d", "/h", "/r"}, Place{"", "/d", "/h", "/d/zilvo/registrations"},
+                               Place{nullptr, "d", "/h", "/h/.local/share/zilvo/registrations"},
+                               Place{nullptr, "", "/h", "/h/.local/share/zilvo/registrations"},
+                               Place{nullptr, nullptr, nullptr, nullptr}, Place{"", "d", "", nullptr}}) {
+        set("ZILVO_REGISTRATIONS", place.named);
+        set("XDG_DATA_HOME", place.data);
+        set("HOME", place.home);
+        const auto outcome = outcomeOf([&] { EXPECT_EQ(RegistrationStore().file(), place.expected); });
+        EXPECT_EQ(outcome.says("HOME"), !place.expected) << outcome.message;
+    }
+    set("HOME", oldHome.c_str());
+}
+
+TEST_F(RegistrationTest, TheEntryPointsOfBothComponents) {
+    for (const char* each : {COMPONENT_FILE, GALLERY_FILE}) {
+        const LoadedComponent loaded(each);
+        loaded.registerServer();
+        EXPECT_EQ(store.find(each), registrationOf(loaded.description(), each));
+    }
+    const LoadedComponent gallery(GALLERY_FILE);
+    gallery.unregisterServer();
+    gallery.unregisterServer();
+    EXPECT_FALSE(store.find(GALLERY_FILE));
+    EXPECT_EQ(store.read().size(), 1U);
+
+    fs::permissions(file, fs::perms::owner_read);
+    const Outcome refused = outcomeOf([&] { gallery.registerServer(); });
+    EXPECT_EQ(refused.status, Status::RegistrationsUnwritable);
+    EXPECT_TRUE(refused.says("Gallery: " + file.string() + " cannot be written")) << refused.message;
+
+    void* library = dlopen(GALLERY_FILE, RTLD_NOW);
+    auto* entry = reinterpret_cast<RegistrationEntry*>(dlsym(library, "DllRegisterServer"));
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry(), static_cast<std::uint32_t>(Status::RegistrationsUnwritable));
+    EXPECT_EQ(takeRegistrationError().message, refused.message);
+    EXPECT_EQ(takeRegistrationError().message, "");
+    dlclose(library);
+}
+
+TEST_F(RegistrationTest, ComponentsCreateByIdentifierAlone) {
+    LoadedComponent(COMPONENT_FILE).registerServer();
+    LoadedComponent(GALLERY_FILE).registerServer();
+    Components components;
+    const auto classId = toUtf16(libraryModule().description().find(u"DeckButtons")->identity.classId.text());
+    std::vector<Ref<Object>> objects;
+    for (const String& name : {String(u"zilvo_zilvobuttons.deckbuttons"), classId, String(u"DeckButtons")})
+        EXPECT_EQ(objects.emplace_back(components.create(name))->description().name, u"DeckButtons");
+    EXPECT_EQ(components.loaded().size(), 1U) << "one file, loaded once";
+    objects.push_back(components.create(u"Gallery.Small"));
+    EXPECT_EQ(components.loaded().size(), 2U);
+    EXPECT_EQ(&components.add(fs::path(COMPONENT_FILE).parent_path() / "../bin/ZilvoButtons-445.Ocx"),
+              &components.main());
+    EXPECT_EQ(components.liveObjects(), objects.size());
+}
+
+TEST_F(RegistrationTest, ComponentsSayWhyTheyCannotCreate) {
+    const fs::path broken = folder / "Broken.Ocx";
+    write(broken, "a text");
+    store.add(component(broken, 1, {1}));
+    Components components;
+    struct Case {
+        fs::path file;
+        Status status;
+        std::string_view says;
+    };
+    const auto creates = [&] { return outcomeOf([&] { components.create(u"Lib.C"); }); };
+    for (const Case& each : {Case{broken, Status::BadComponent, "Broken.Ocx is not a component"},
+                             Case{folder / "Gone.Ocx", Status::FileNotFound, "there is no component file"},
+                             Case{COMPONENT_FILE, Status::ClassNotAvailable, "does not have it"}}) {
+        store.add(component(each.file, 1, {1}));
+        const Outcome outcome = creates();
+        EXPECT_EQ(outcome.status, each.status);
+        EXPECT_TRUE(outcome.says("Lib.C") && outcome.says(file.string()) && outcome.says(each.says)) << outcome.message;
+    }
+    fs::remove(file);
+    EXPECT_EQ(creates().status, Status::ClassNotAvailable);
+    write(file, "damaged");
+    EXPECT_EQ(creates().status, Status::RegistrationsUnreadable);
+    EXPECT_EQ(components.create(u"DeckButtons")->description().name, u"DeckButtons") << "of a loaded one, all the same";
+}
+
+} // namespace zilvo
