@@ -25,7 +25,7 @@ std::filesystem::path programFolder() {
 
 std::filesystem::path componentFile(const std::filesystem::path& named) {
     if (!named.empty()) return named;
-    const auto beside = programFolder() / UsualName;
+    auto beside = programFolder() / UsualName;
     if (std::filesystem::exists(beside)) return beside;
 
     const auto nothing = [&] {

@@ -2,8 +2,6 @@
 
 #include "platform/component/RegistrationStore.h"
 
-#include <ranges>
-
 namespace zilvo::platform {
 
 namespace {
@@ -13,16 +11,18 @@ struct RegisteredClass {
     Guid classId;
 };
 
-/// Fails with ClassNotAvailable.
+/// The newest of that name; fails with ClassNotAvailable.
 RegisteredClass findRegistered(StringView name, const RegistrationStore& store) {
     const auto id = Guid::parse(toUtf8(name));
-    const auto registrations = store.read();
-    for (const Registration& registration : registrations | std::views::reverse) // the newest of a name
+    std::optional<RegisteredClass> newest;
+    for (const Registration& registration : store.read())
         for (const auto& each : registration.classes)
             if (sameName(each.progId, name) || sameName(each.name, name) || each.classId == id)
-                return {registration.file, each.classId};
-    throw Failure(Status::ClassNotAvailable, "neither a loaded component nor the registrations in " +
-                                                 store.file().string() + " have a class " + toUtf8(name));
+                newest = {registration.file, each.classId};
+    if (!newest)
+        throw Failure(Status::ClassNotAvailable, "neither a loaded component nor the registrations in " +
+                                                     store.file().string() + " have a class " + toUtf8(name));
+    return *newest;
 }
 
 } // namespace

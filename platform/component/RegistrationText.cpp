@@ -339,7 +339,7 @@ void readPart(const Section& section, Reader& reader, Registration& registration
     const std::string file = registration.file.string();
     if (section.name == LibrarySection) {
         if (registration.library) source.refuse(section.line, "the component has a second type library");
-        listLibrary(reader, registration.library.emplace(), file);
+        listLibrary(reader, registration.library.emplace(Registration::TypeLibrary()), file);
     } else if (section.name == ClassSection) {
         listClass(reader, registration.classes.emplace_back(), file);
     } else if (section.name == InterfaceSection) {
