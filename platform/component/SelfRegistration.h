@@ -12,8 +12,8 @@ namespace zilvo::platform {
 Status registerServer(const ComponentModule& module) noexcept;
 Status unregisterServer(const ComponentModule& module) noexcept;
 
-/// An entry point gives a status only; this is the message of the one above that ran last on this thread, and then
-/// forgotten. Empty after a success.
+/// Takes the message of the one of them that ran last on this thread, since an entry point gives a status only. Empty
+/// after a success, and once it has been taken.
 ErrorInfo takeRegistrationError() noexcept;
 
 /// What the two exported entry points look like.
