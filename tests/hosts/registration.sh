@@ -1,15 +1,18 @@
 #!/bin/sh
-# Usage: registration.sh PROGRAM PLATFORM COMPONENT OTHER_COMPONENT
-# Copies them, the program without a component beside it, and uses the components through their registration alone.
+# Usage: registration.sh PROGRAM PLATFORM COMPONENT OTHER_COMPONENT HOST SCRIPT
+# Copies them, the program without a component beside it, and uses the components through their registration alone, as
+# the demonstrating host and script do.
 set -u
 work=$(cd "$(mktemp -d)" && pwd -P) || exit 1
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/bin" "$work/the components" "$work/elsewhere"
-cp "$1" "$2" "$work/bin/"
+cp "$1" "$2" "$5" "$work/bin/"
 cp "$3" "$4" "$work/the components/"
 program=$work/bin/$(basename "$1")
 component="$work/the components/$(basename "$3")"
 other="$work/the components/$(basename "$4")"
+host=$work/bin/$(basename "$5")
+demonstration=$6
 store=$work/home/.local/share/zilvo/registrations
 cd "$work/elsewhere" || exit 1
 failures=0
@@ -61,6 +64,12 @@ zilvo.create("Nothing")
 END
 expect 1 "script.lua:10: neither a loaded component nor the registrations in $store have a class Nothing" \
     run "$work/script.lua"
+
+for command in "$host" "$program run $demonstration"; do
+    env -i HOME="$work/home" $command >"$work/out" 2>&1 </dev/null || complain "$command failed"
+    [ "$(tr '\n' ';' <"$work/out")" = 'the table has 6 decks;the table has 8 decks;NumberOfDecks is 8;' ] ||
+        complain "$command printed something else"
+done
 
 # The file is gone: it says so, and can be unregistered all the same.
 rm "$other"
