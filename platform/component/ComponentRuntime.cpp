@@ -47,10 +47,11 @@ void checkIsWhole(const std::filesystem::path& file) {
     }
 }
 
+/// Adds the name to the missing ones when there is no such entry point.
 template <class Entry>
-Entry* entryPoint(void* library, const char* name, const std::filesystem::path& file) {
+Entry* entryPoint(void* library, const char* name, std::string& missing) {
     void* entry = dlsym(library, name);
-    if (!entry) refuse(file, std::string("it lacks the entry point ") + name);
+    if (!entry) missing += std::string(" ") + name;
     return reinterpret_cast<Entry*>(entry); // what dlsym gives has no type
 }
 
@@ -60,10 +61,12 @@ LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(std:
     checkIsWhole(file_);
     library_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
     if (!library_) refuse(file_, dlerror());
-    getClassObject_ = entryPoint<GetClassObjectEntry>(library_.get(), "DllGetClassObject", file_);
-    canUnloadNow_ = entryPoint<CanUnloadNowEntry>(library_.get(), "DllCanUnloadNow", file_);
-    registerServer_ = entryPoint<RegistrationEntry>(library_.get(), "DllRegisterServer", file_);
-    unregisterServer_ = entryPoint<RegistrationEntry>(library_.get(), "DllUnregisterServer", file_);
+    std::string missing;
+    getClassObject_ = entryPoint<GetClassObjectEntry>(library_.get(), "DllGetClassObject", missing);
+    canUnloadNow_ = entryPoint<CanUnloadNowEntry>(library_.get(), "DllCanUnloadNow", missing);
+    registerServer_ = entryPoint<RegistrationEntry>(library_.get(), "DllRegisterServer", missing);
+    unregisterServer_ = entryPoint<RegistrationEntry>(library_.get(), "DllUnregisterServer", missing);
+    if (!missing.empty()) refuse(file_, "it lacks the entry points" + missing);
     void* module = nullptr;
     getClassObject_(&InformationClass, &InformationInterface, &module);
     if (!module) refuse(file_, "it does not tell what it publishes");
