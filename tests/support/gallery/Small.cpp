@@ -66,8 +66,8 @@ bool Small::get_RunsInUserMode() {
 }
 
 void Small::FlagsOfAllowed(BooleanArray& Flags) {
-    for (Long i = Flags.LowerBound(); i <= Flags.UpperBound(); ++i)
-        Flags.At(i) = asBoolean(i <= storedAllowed);
+    for (std::int64_t i = Flags.LowerBound(); i <= Flags.UpperBound(); ++i)
+        Flags.At(static_cast<Long>(i)) = asBoolean(i <= storedAllowed);
 }
 
 void Small::Refuse(Long Number) {

@@ -135,12 +135,13 @@ void WidgetGallery::Append(String& Text, const String& More) {
 }
 
 Integer WidgetGallery::Flip(BooleanArray& Flags) {
-    Integer set = 0;
-    for (Long i = Flags.LowerBound(); i <= Flags.UpperBound(); ++i) {
-        Flags.At(i) = asBoolean(!isTrue(Flags.At(i)));
-        if (isTrue(Flags.At(i))) ++set;
+    Long set = 0;
+    for (std::int64_t i = Flags.LowerBound(); i <= Flags.UpperBound(); ++i) {
+        Boolean& flag = Flags.At(static_cast<Long>(i));
+        flag = asBoolean(!isTrue(flag));
+        if (isTrue(flag)) ++set;
     }
-    return set;
+    return narrow(set, u"the number of flags");
 }
 
 void WidgetGallery::FailHalfway() {
