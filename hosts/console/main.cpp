@@ -7,6 +7,7 @@
 #include "hosts/console/Register.h"
 #include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
+#include "hosts/console/Validate.h"
 #include "platform/component/Components.h"
 #include "platform/component/RegistrationStore.h"
 
@@ -25,13 +26,14 @@ using namespace platform;
 struct CommandLine {
     std::filesystem::path component;
     std::filesystem::path registrations;
-    std::filesystem::path file;      ///< to register or unregister
+    std::filesystem::path file;      ///< to register, unregister or validate
     std::vector<std::string> script; ///< the file, then its arguments
     std::string className;
     std::vector<std::string> classNames;
     std::vector<std::string> resourceNames;
     std::filesystem::path directory;
     std::filesystem::path picture;
+    unsigned timeout = 10; ///< seconds
     bool json = false;
     bool idl = false;
 };
@@ -128,6 +130,10 @@ int unregisterFile(const CommandLine& given) {
     return 0;
 }
 
+int validateFile(const CommandLine& given) {
+    return validate(given.file, given.json, std::chrono::seconds(given.timeout)) ? 0 : 1;
+}
+
 using Command = int(const CommandLine& given);
 
 /// A command on one component.
@@ -195,6 +201,12 @@ int start(int argc, char** argv) {
     };
     takesFile(add("register", "registers a component, so that its classes are found by name", registerFile));
     takesFile(add("unregister", "takes a component, even one that is gone, out of the registrations", unregisterFile));
+    CLI::App* validates = add("validate", "checks a component before it is trusted", validateFile);
+    takesFile(validates);
+    validates->add_flag("--json", given.json, "as JSON");
+    validates->add_option("--timeout", given.timeout, "how long each check may take, 10 unless given")
+        ->type_name("SECONDS")
+        ->check(CLI::Range(1U, 86400U));
 
     try {
         app.parse(argc, argv);
