@@ -91,6 +91,7 @@ void exercise(Check& check, const LoadedComponent& component, const ClassEntry& 
             const std::size_t before = subject.heard();
             const Answer answer = subject.deed->run();
             behaviour.verify(subject, answer, subject.heard() != before);
+            if (subject.host) subject.host->extenderObject().put_Visible(true); // it may have hidden itself
         }
     }
 }
