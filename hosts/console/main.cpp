@@ -142,80 +142,125 @@ int onComponent(const CommandLine& given) {
     return Does(given, LoadedComponent(componentFile(given.component)));
 }
 
-int start(int argc, char** argv) {
-    CommandLine given;
-    Command* command = nullptr;
-    CLI::App app("Hosts the controls of a component without a screen.", "zilvo");
-    app.failure_message(CLI::FailureMessage::help);
-    app.require_subcommand(1);
-    const auto takesFiles = [&given](CLI::App& where) {
+/// What can be given on the command line, and what was.
+class Commands {
+public:
+    Commands() {
+        app_.failure_message(CLI::FailureMessage::help);
+        app_.require_subcommand(1);
+        takeFiles(app_);
+        addScripts();
+        addDescriptions();
+        addPictures();
+        addComponents();
+    }
+
+    int parseAndRun(int argc, char** argv) {
+        try {
+            app_.parse(argc, argv);
+        } catch (const CLI::ParseError& error) {
+            return app_.exit(error);
+        }
+        if (!given_.registrations.empty())
+            setenv(RegistrationStore::EnvironmentVariable, given_.registrations.c_str(), 1);
+        return command_(given_);
+    }
+
+private:
+    CLI::App& add(const char* name, const char* text, Command& does) {
+        CLI::App* command = app_.add_subcommand(name, text);
+        command->fallthrough();
+        command->callback([this, &does] { command_ = &does; });
+        return *command;
+    }
+
+    // Options that several commands take
+
+    void takeFiles(CLI::App& where) {
         where
-            .add_option("--component", given.component,
+            .add_option("--component", given_.component,
                         "the component file, if not the one beside the program or a registered one")
             ->type_name("FILE");
         where
-            .add_option("--registrations", given.registrations,
+            .add_option("--registrations", given_.registrations,
                         "the user's registrations, in place of $ZILVO_REGISTRATIONS")
             ->type_name("FILE");
-    };
-    takesFiles(app);
-    const auto add = [&](const char* name, const char* text, Command& does) {
-        CLI::App* sub = app.add_subcommand(name, text);
-        sub->fallthrough();
-        sub->callback([&command, &does] { command = &does; });
-        return sub;
-    };
-
-    // All behind the script's name is the script's own.
-    CLI::App* runs = add("run", "runs a host script: run FILE.lua [ARG...]", run);
-    runs->prefix_command();
-    runs->fallthrough(false);
-    takesFiles(*runs);
-    runs->callback([&] {
-        command = run;
-        given.script = runs->remaining();
-        if (given.script.empty()) throw CLI::RequiredError("FILE.lua");
-    });
-    add("repl", "reads and runs statements from standard input", repl);
-    add("list", "lists the classes: name, ProgID, class id", onComponent<list>);
-    CLI::App* describes = add("describe", "writes the type description", onComponent<describe>);
-    describes->add_option("class", given.className, "one class only")->type_name("CLASS");
-    CLI::Option* asJson = describes->add_flag("--json", given.json, "as JSON");
-    describes->add_flag("--idl", given.idl, "in the interface definition language")->excludes(asJson);
-    CLI::App* inspects = add("inspect", "writes the widget tree of a fresh instance", onComponent<inspect>);
-    inspects->add_option("class", given.className, "the class")->type_name("CLASS")->required();
-    inspects->add_flag("--json", given.json, "as JSON");
-    CLI::App* snapshots = add("snapshot", "draws new instances into SVG files", onComponent<snapshot>);
-    snapshots->add_option("classes", given.classNames, "the classes, or all")->type_name("CLASS")->required();
-    snapshots->add_option("-o,--output", given.directory, "where the files go")->type_name("DIR")->required();
-    CLI::App* galleries = add("gallery", "draws all controls into one SVG file", onComponent<gallery>);
-    galleries->add_option("picture", given.picture, "the file")->type_name("FILE.svg")->required();
-    CLI::App* resourcesListed = add(
-        "resources", "lists the bitmaps, interface ids and version record, or extracts them", onComponent<resources>);
-    CLI::Option* into =
-        resourcesListed->add_option("-o,--output", given.directory, "where their files go")->type_name("DIR");
-    resourcesListed->add_option("names", given.resourceNames, "which ones, if not all")->type_name("NAME")->needs(into);
-
-    const auto takesFile = [&](CLI::App* sub) {
-        sub->add_option("file", given.file, "the component file")->type_name("FILE")->required();
-    };
-    takesFile(add("register", "registers a component, so that its classes are found by name", registerFile));
-    takesFile(add("unregister", "takes a component, even one that is gone, out of the registrations", unregisterFile));
-    CLI::App* validates = add("validate", "checks a component before it is trusted", validateFile);
-    takesFile(validates);
-    validates->add_flag("--json", given.json, "as JSON");
-    validates->add_option("--timeout", given.timeout, "how long each check may take, 10 unless given")
-        ->type_name("SECONDS")
-        ->check(CLI::Range(1U, 86400U));
-
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error);
     }
-    if (!given.registrations.empty()) setenv(RegistrationStore::EnvironmentVariable, given.registrations.c_str(), 1);
+    CLI::Option* takeClass(CLI::App& where, const char* text) {
+        return where.add_option("class", given_.className, text)->type_name("CLASS");
+    }
+    CLI::Option* takeJson(CLI::App& where) { return where.add_flag("--json", given_.json, "as JSON"); }
+    CLI::Option* takeDirectory(CLI::App& where) {
+        return where.add_option("-o,--output", given_.directory, "where the files go")->type_name("DIR");
+    }
+    void takeFile(CLI::App& where) {
+        where.add_option("file", given_.file, "the component file")->type_name("FILE")->required();
+    }
+
+    void addScripts() {
+        CLI::App& runs = add("run", "runs a host script: run FILE.lua [ARG...]", run);
+        runs.prefix_command(); // all behind the script's name is the script's own
+        runs.fallthrough(false);
+        takeFiles(runs);
+        runs.callback([this, &runs] {
+            command_ = run;
+            given_.script = runs.remaining();
+            if (given_.script.empty()) throw CLI::RequiredError("FILE.lua");
+        });
+        add("repl", "reads and runs statements from standard input", repl);
+    }
+
+    void addDescriptions() {
+        add("list", "lists the classes: name, ProgID, class id", onComponent<list>);
+
+        CLI::App& describes = add("describe", "writes the type description", onComponent<describe>);
+        takeClass(describes, "one class only");
+        describes.add_flag("--idl", given_.idl, "in the interface definition language")->excludes(takeJson(describes));
+
+        CLI::App& inspects = add("inspect", "writes the widget tree of a fresh instance", onComponent<inspect>);
+        takeClass(inspects, "the class")->required();
+        takeJson(inspects);
+
+        CLI::App& lists = add("resources", "lists the bitmaps, interface ids and version record, or extracts them",
+                              onComponent<resources>);
+        lists.add_option("names", given_.resourceNames, "which ones, if not all")
+            ->type_name("NAME")
+            ->needs(takeDirectory(lists));
+    }
+
+    void addPictures() {
+        CLI::App& snapshots = add("snapshot", "draws new instances into SVG files", onComponent<snapshot>);
+        snapshots.add_option("classes", given_.classNames, "the classes, or all")->type_name("CLASS")->required();
+        takeDirectory(snapshots)->required();
+
+        add("gallery", "draws all controls into one SVG file", onComponent<gallery>)
+            .add_option("picture", given_.picture, "the file")
+            ->type_name("FILE.svg")
+            ->required();
+    }
+
+    void addComponents() {
+        takeFile(add("register", "registers a component, so that its classes are found by name", registerFile));
+        takeFile(
+            add("unregister", "takes a component, even one that is gone, out of the registrations", unregisterFile));
+
+        CLI::App& validates = add("validate", "checks a component before it is trusted", validateFile);
+        takeFile(validates);
+        takeJson(validates);
+        validates.add_option("--timeout", given_.timeout, "how long each check may take, 10 unless given")
+            ->type_name("SECONDS")
+            ->check(CLI::Range(1U, 86400U));
+    }
+
+    CLI::App app_{"Hosts the controls of a component without a screen.", "zilvo"};
+    CommandLine given_;
+    Command* command_ = nullptr;
+};
+
+int start(int argc, char** argv) {
+    Commands commands;
     try {
-        return command(given);
+        return commands.parseAndRun(argc, argv);
     } catch (const std::exception& exception) {
         std::cerr << "zilvo: " << exception.what() << '\n';
         return 1;
