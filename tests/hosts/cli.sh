@@ -4,16 +4,7 @@
 set -u
 program=$1
 component=$2
-work=$(mktemp -d) || exit 1
-trap 'rm -rf "$work"' EXIT
-failures=0
-
-complain() {
-    echo "FAILED: $*" >&2
-    sed 's/^/    out: /' "$work/out" >&2
-    sed 's/^/    err: /' "$work/err" >&2
-    failures=$((failures + 1))
-}
+. "$(dirname "$0")/../support/complaints.sh"
 
 # expect STATUS PATTERN ARGUMENT...: runs the program on the component. STATUS is a number or "misuse", for any but 0;
 # a line of its output must match PATTERN.
@@ -122,4 +113,4 @@ component=$component_given
 "$program" run --component "$component" "$work/good.lua" a >"$work/out" 2>"$work/err" || complain "--component behind run"
 "$program" list --component "$component" >"$work/out" 2>"$work/err" || complain "--component behind list"
 
-[ $failures -eq 0 ]
+finish

@@ -3,8 +3,7 @@
 # Copies them, the program without a component beside it, and uses the components through their registration alone, as
 # the demonstrating host and script do.
 set -u
-work=$(cd "$(mktemp -d)" && pwd -P) || exit 1
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "$0")/../support/complaints.sh"
 mkdir "$work/bin" "$work/the components" "$work/elsewhere"
 cp "$1" "$2" "$5" "$work/bin/"
 cp "$3" "$4" "$work/the components/"
@@ -15,13 +14,6 @@ host=$work/bin/$(basename "$5")
 demonstration=$6
 store=$work/home/.local/share/zilvo/registrations
 cd "$work/elsewhere" || exit 1
-failures=0
-
-complain() {
-    echo "FAILED: $*" >&2
-    sed 's/^/    /' "$work/out" >&2
-    failures=$((failures + 1))
-}
 
 # expect STATUS TEXT ARGUMENT...: runs the program with nothing in its environment but HOME; what it prints has TEXT.
 expect() {
@@ -95,4 +87,4 @@ for command in list "register $(basename "$component")"; do
     grep -q 'ZILVO_REGISTRATIONS, XDG_DATA_HOME and HOME' "$work/out" || complain 'did not name the variables'
 done
 
-[ $failures -eq 0 ]
+finish

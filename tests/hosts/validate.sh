@@ -5,16 +5,7 @@ set -u
 program=$1
 faulty=$2
 shift
-work=$(mktemp -d) || exit 1
-trap 'rm -rf "$work"' EXIT
-failures=0
-
-complain() {
-    echo "FAILED: $*" >&2
-    sed 's/^/    out: /' "$work/out" >&2
-    sed 's/^/    err: /' "$work/err" >&2
-    failures=$((failures + 1))
-}
+. "$(dirname "$0")/../support/complaints.sh"
 
 # run STATUS ARGUMENT...: validates, which must end with that status.
 run() {
@@ -90,4 +81,4 @@ for arguments in '' '--timeout 0' '--timeout x'; do
     ! "$program" validate $arguments "${arguments:+$faulty}" >"$work/out" 2>"$work/err" || complain "took $arguments"
 done
 
-[ $failures -eq 0 ]
+finish
