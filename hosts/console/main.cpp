@@ -3,11 +3,11 @@
 #include "hosts/console/Gallery.h"
 #include "hosts/console/Idl.h"
 #include "hosts/console/Inspect.h"
-#include "hosts/console/LuaHost.h"
 #include "hosts/console/Register.h"
 #include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
-#include "hosts/console/Validate.h"
+#include "hosts/console/lua/LuaHost.h"
+#include "hosts/console/validate/Validate.h"
 #include "platform/component/Components.h"
 #include "platform/component/RegistrationStore.h"
 

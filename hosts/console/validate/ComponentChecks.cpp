@@ -1,4 +1,4 @@
-#include "hosts/console/ValidateDriver.h"
+#include "hosts/console/validate/Driver.h"
 #include "platform/component/RegistrationStore.h"
 #include "platform/component/RegistrationText.h"
 

@@ -1,7 +1,7 @@
-#include "hosts/console/Validate.h"
+#include "hosts/console/validate/Validate.h"
 
 #include "hosts/console/Describe.h"
-#include "hosts/console/ValidateChecks.h"
+#include "hosts/console/validate/Checks.h"
 #include "platform/component/RegistrationStore.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/console/LuaObject.h"
+#include "hosts/console/lua/LuaObject.h"
 
 namespace zilvo::console {
 

@@ -1,8 +1,8 @@
-#include "hosts/console/LuaEvents.h"
+#include "hosts/console/lua/LuaEvents.h"
 
-#include "hosts/console/LuaErrors.h"
-#include "hosts/console/LuaUserdata.h"
-#include "hosts/console/LuaValues.h"
+#include "hosts/console/lua/LuaErrors.h"
+#include "hosts/console/lua/LuaUserdata.h"
+#include "hosts/console/lua/LuaValues.h"
 
 namespace zilvo::console {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/console/LuaSession.h"
+#include "hosts/console/lua/LuaSession.h"
 #include "platform/component/ControlHost.h"
 
 #include <lua.h>

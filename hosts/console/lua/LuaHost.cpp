@@ -1,12 +1,12 @@
-#include "hosts/console/LuaHost.h"
+#include "hosts/console/lua/LuaHost.h"
 
-#include "hosts/console/LuaControl.h"
-#include "hosts/console/LuaErrors.h"
-#include "hosts/console/LuaGlobals.h"
-#include "hosts/console/LuaObject.h"
-#include "hosts/console/LuaUserdata.h"
-#include "hosts/console/LuaValues.h"
-#include "hosts/console/LuaWidget.h"
+#include "hosts/console/lua/LuaControl.h"
+#include "hosts/console/lua/LuaErrors.h"
+#include "hosts/console/lua/LuaGlobals.h"
+#include "hosts/console/lua/LuaObject.h"
+#include "hosts/console/lua/LuaUserdata.h"
+#include "hosts/console/lua/LuaValues.h"
+#include "hosts/console/lua/LuaWidget.h"
 
 #include <lauxlib.h>
 #include <lualib.h>

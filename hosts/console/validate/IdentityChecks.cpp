@@ -1,5 +1,5 @@
 #include "hosts/console/Describe.h"
-#include "hosts/console/ValidateDriver.h"
+#include "hosts/console/validate/Driver.h"
 #include "platform/component/Resources.h"
 
 #include <algorithm>

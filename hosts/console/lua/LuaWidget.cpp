@@ -1,9 +1,9 @@
-#include "hosts/console/LuaWidget.h"
+#include "hosts/console/lua/LuaWidget.h"
 
-#include "hosts/console/LuaErrors.h"
-#include "hosts/console/LuaObject.h"
-#include "hosts/console/LuaUserdata.h"
-#include "hosts/console/LuaValues.h"
+#include "hosts/console/lua/LuaErrors.h"
+#include "hosts/console/lua/LuaObject.h"
+#include "hosts/console/lua/LuaUserdata.h"
+#include "hosts/console/lua/LuaValues.h"
 
 #include <limits>
 

@@ -1,8 +1,8 @@
-#include "hosts/console/LuaParts.h"
+#include "hosts/console/lua/LuaParts.h"
 
-#include "hosts/console/LuaErrors.h"
-#include "hosts/console/LuaUserdata.h"
-#include "hosts/console/LuaValues.h"
+#include "hosts/console/lua/LuaErrors.h"
+#include "hosts/console/lua/LuaUserdata.h"
+#include "hosts/console/lua/LuaValues.h"
 
 #include <array>
 

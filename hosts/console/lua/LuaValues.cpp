@@ -1,7 +1,7 @@
-#include "hosts/console/LuaValues.h"
+#include "hosts/console/lua/LuaValues.h"
 
-#include "hosts/console/LuaErrors.h"
-#include "hosts/console/LuaUserdata.h"
+#include "hosts/console/lua/LuaErrors.h"
+#include "hosts/console/lua/LuaUserdata.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/console/ValidateChecks.h"
+#include "hosts/console/validate/Checks.h"
 #include "platform/component/ControlHost.h"
 
 #include <memory>

@@ -1,4 +1,4 @@
-#include "hosts/console/ValidateDriver.h"
+#include "hosts/console/validate/Driver.h"
 
 #include "hosts/console/Describe.h"
 #include "platform/painting/SvgPainter.h"

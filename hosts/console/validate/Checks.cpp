@@ -1,4 +1,4 @@
-#include "hosts/console/ValidateChecks.h"
+#include "hosts/console/validate/Checks.h"
 
 namespace zilvo::console {
 

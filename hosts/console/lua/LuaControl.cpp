@@ -1,13 +1,13 @@
-#include "hosts/console/LuaControl.h"
+#include "hosts/console/lua/LuaControl.h"
 
 #include "hosts/console/Files.h"
-#include "hosts/console/LuaErrors.h"
-#include "hosts/console/LuaEvents.h"
-#include "hosts/console/LuaGlobals.h"
-#include "hosts/console/LuaParts.h"
-#include "hosts/console/LuaValues.h"
-#include "hosts/console/LuaWidget.h"
 #include "hosts/console/Snapshot.h"
+#include "hosts/console/lua/LuaErrors.h"
+#include "hosts/console/lua/LuaEvents.h"
+#include "hosts/console/lua/LuaGlobals.h"
+#include "hosts/console/lua/LuaParts.h"
+#include "hosts/console/lua/LuaValues.h"
+#include "hosts/console/lua/LuaWidget.h"
 
 #include <array>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "hosts/console/LuaSession.h"
+#include "hosts/console/lua/LuaSession.h"
 
 namespace zilvo::console {
 

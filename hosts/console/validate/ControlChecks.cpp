@@ -1,5 +1,5 @@
 #include "hosts/console/Snapshot.h"
-#include "hosts/console/ValidateDriver.h"
+#include "hosts/console/validate/Driver.h"
 #include "platform/painting/SvgPainter.h"
 
 #include <algorithm>

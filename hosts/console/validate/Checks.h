@@ -50,7 +50,7 @@ namespace checks {
 
 using platform::LoadedComponent;
 
-// ValidateChecksComponent.cpp: the file, its class factories and how it registers itself
+// ComponentChecks.cpp: the file, its class factories and how it registers itself
 void loads(Check& check, LoadedComponent& component);
 void classFactories(Check& check, LoadedComponent& component);
 void unknownClasses(Check& check, LoadedComponent& component);
@@ -58,7 +58,7 @@ void staysLoadedInUse(Check& check, LoadedComponent& component);
 void registration(Check& check, LoadedComponent& component);
 void unloads(Check& check, LoadedComponent& component);
 
-// ValidateChecksIdentity.cpp: what it publishes
+// IdentityChecks.cpp: what it publishes
 void identifiers(Check& check, LoadedComponent& component);
 void names(Check& check, LoadedComponent& component);
 void controlsAndOthers(Check& check, LoadedComponent& component);
@@ -67,14 +67,14 @@ void enumerations(Check& check, LoadedComponent& component);
 void instanceDescriptions(Check& check, LoadedComponent& component);
 void resources(Check& check, LoadedComponent& component);
 
-// ValidateChecksMembers.cpp: properties and methods
+// MemberChecks.cpp: properties and methods
 void properties(Check& check, LoadedComponent& component);
 void methods(Check& check, LoadedComponent& component);
 void wrongCalls(Check& check, LoadedComponent& component);
 void extremeArguments(Check& check, LoadedComponent& component);
 void membersWithoutSite(Check& check, LoadedComponent& component);
 
-// ValidateChecksControl.cpp: what a host drives
+// ControlChecks.cpp: what a host drives
 void lifecycle(Check& check, LoadedComponent& component);
 void sizes(Check& check, LoadedComponent& component);
 void painting(Check& check, LoadedComponent& component);
@@ -83,7 +83,7 @@ void settingsRoundTrip(Check& check, LoadedComponent& component);
 void hostileSettings(Check& check, LoadedComponent& component);
 void failingSettings(Check& check, LoadedComponent& component);
 
-// ValidateChecksEvents.cpp: events and their handlers
+// EventChecks.cpp: events and their handlers
 void eventConnections(Check& check, LoadedComponent& component);
 void eventsRaised(Check& check, LoadedComponent& component);
 void closingHandlers(Check& check, LoadedComponent& component);

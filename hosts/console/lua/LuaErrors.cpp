@@ -1,4 +1,4 @@
-#include "hosts/console/LuaErrors.h"
+#include "hosts/console/lua/LuaErrors.h"
 
 #include <lauxlib.h>
 
