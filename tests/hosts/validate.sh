@@ -55,7 +55,7 @@ object-stays-alive|FAILED  *stays loaded while in use|Faulty: 1 objects are aliv
 settings-not-restored|FAILED  *settings are restored|Title was saved as "Text & more" (String), is saved as "&Push" (String)
 second-InitNew|FAILED  *lifecycle|Forwarder, InitNew while new: expected 0x8000ffff (unexpected call), came 0x00000000
 other-id-registered|FAILED  *registration|registers \[class\] id = {9C4D21E7-0A6B-4F1C-8E55-3B7D90A1C299}.*expected \[class\] id = {9C4D21E7-0A6B-4F1C-8E55-3B7D90A1C210}
-crash-while-loading|CRASHED  *loads|ended
+crash-while-loading|CRASHED  *loads and exports|ended
 END
 unset ZILVO_FAULT
 

@@ -4,7 +4,7 @@ namespace zilvo::console {
 
 std::span<const NamedCheck> validationChecks() {
     static constexpr std::array table = {
-        NamedCheck{"loads", checks::loads},
+        NamedCheck{"loads and exports", checks::loads},
         NamedCheck{"class factories", checks::classFactories},
         NamedCheck{"unknown classes and interfaces", checks::unknownClasses},
         NamedCheck{"stays loaded while in use", checks::staysLoadedInUse},
