@@ -36,26 +36,25 @@ void raiseWithOneHandler(benchmark::State& state) {
     limited(state, 2.5);
 }
 
-void putById(benchmark::State& state) {
+/// By member id or by name.
+template <class Which>
+void putOKEnabled(benchmark::State& state, const Which& which, double limit) {
     const auto control = create<ssOKCancel>();
     ControlHost host(control);
     host.open();
     Object& object = *control;
     Variant value(true);
     for (auto _ : state)
-        benchmark::DoNotOptimize(object.Invoke(0x68030001, Access::Put, {&value, 1}, nullptr));
-    limited(state, 8);
+        benchmark::DoNotOptimize(object.Invoke(which, Access::Put, {&value, 1}, nullptr));
+    limited(state, limit);
+}
+
+void putById(benchmark::State& state) {
+    putOKEnabled(state, MemberId{0x68030001}, 8);
 }
 
 void putByName(benchmark::State& state) {
-    const auto control = create<ssOKCancel>();
-    ControlHost host(control);
-    host.open();
-    Object& object = *control;
-    Variant value(true);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(object.Invoke(u"OKEnabled", Access::Put, {&value, 1}, nullptr));
-    limited(state, 20);
+    putOKEnabled(state, StringView(u"OKEnabled"), 20);
 }
 
 /// The lifecycle that a host runs a loaded instance through, from the class factory on.
