@@ -168,28 +168,6 @@ TEST(PublishedMembers, AreReachedByIdAndGiveWhatTheNameGives) {
     EXPECT_EQ(next, published.end());
 }
 
-TEST(Identity, ClassTableDescriptionsAndIdentitiesAgree) {
-    std::vector<Guid> ids = {libraryIdentity.id};
-    for (const ClassIdentity& identity : classIdentities) {
-        ids.push_back(identity.classId);
-        ids.push_back(identity.interfaceId);
-        if (identity.eventInterfaceId) ids.push_back(*identity.eventInterfaceId);
-        EXPECT_EQ(identity.isControl(), identity.toolboxBitmap.has_value());
-        EXPECT_EQ(identity.isControl(), identity.miscStatus.has_value());
-    }
-    for (const EnumerationDescription* enumeration : enumerations)
-        ids.push_back(enumeration->id);
-    std::sort(ids.begin(), ids.end());
-    EXPECT_EQ(std::adjacent_find(ids.begin(), ids.end()), ids.end()) << "an identifier stands twice";
-
-    for (const ClassEntry& entry : libraryModule().description().classes) {
-        EXPECT_EQ(entry.description.name, entry.identity.name);
-        Long number = 0;
-        for (const EventDescription& event : entry.description.events)
-            EXPECT_EQ(event.number, ++number) << toUtf8(event.name);
-    }
-}
-
 TEST(Identity, EnumerationNamesAreReadOffTheEnumerators) {
     const auto& casino = descriptionOf(CasinoDeckDefaults{});
     EXPECT_EQ(casino.members.front().name, u"deckDefaultResetDecks");
