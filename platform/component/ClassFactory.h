@@ -31,8 +31,7 @@ inline constexpr Guid InformationInterface = "{5D1F6C0A-64C2-4B0B-9B3E-5F3E0C6F9
 inline constexpr Guid InformationClass = "{5D1F6C0B-64C2-4B0B-9B3E-5F3E0C6F9A11}"_guid;
 
 /// Serves DllGetClassObject from a component's class table. `*object` becomes a ClassFactory with one reference for
-/// the caller, or the information; null on failure. Gives ClassNotAvailable
-/// or NoInterface.
+/// the caller, or the information; null on failure. Gives ClassNotAvailable or NoInterface.
 Status getClassObject(ComponentModule& module, const Guid& classId, const Guid& interfaceId, void** object) noexcept;
 
 /// Serves DllCanUnloadNow: Ok when nothing of the component is alive, else False.

@@ -6,20 +6,13 @@ namespace zilvo::platform {
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-void append(Bytes& out, std::uint32_t value, unsigned bytes) {
-    for (unsigned i = 0; i < bytes; ++i)
-        out.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-}
-
 /// A 32-bit length, then the identifier in its binary form: three little-endian numbers and eight bytes.
 Bytes interfaceIdResource(const Guid& id) {
     Bytes out;
-    append(out, 16, 4);
-    append(out, id.data1, 4);
-    append(out, id.data2, 2);
-    append(out, id.data3, 2);
+    appendLittleEndian(out, 16, 4);
+    appendLittleEndian(out, id.data1, 4);
+    appendLittleEndian(out, id.data2, 2);
+    appendLittleEndian(out, id.data3, 2);
     out.insert(out.end(), id.data4.begin(), id.data4.end());
     return out;
 }
@@ -55,7 +48,7 @@ public:
         below();
         close(start);
     }
-    void number(std::uint32_t value, unsigned bytes) { platform::append(out_, value, bytes); }
+    void number(std::uint32_t value, unsigned bytes) { appendLittleEndian(out_, value, bytes); }
 
     Bytes take() { return std::move(out_); }
 

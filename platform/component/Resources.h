@@ -31,7 +31,7 @@ Bitmap bitmapOf(const ToolboxPicture& picture);
 struct Resource {
     StringView type; ///< "BITMAP", "RCDATA" or "VERSION"
     String name;     ///< "30015", "_IID_SSOKCANCEL", "1"
-    std::vector<std::uint8_t> bytes;
+    Bytes bytes;
 };
 
 /// All of a component's resources: bitmaps by id, interface ids in the order of the classes, the version record.

@@ -19,11 +19,6 @@ int checkedSide(int pixels, const char* which) {
     return pixels;
 }
 
-void appendLittleEndian(std::vector<std::uint8_t>& out, std::uint32_t value, unsigned bytes) {
-    for (unsigned i = 0; i < bytes; ++i)
-        out.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-}
-
 } // namespace
 
 Bitmap::Bitmap(int width, int height, Pixel ground)
@@ -39,7 +34,7 @@ std::size_t Bitmap::offsetOf(int x, int y) const {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
 }
 
-std::vector<std::uint8_t> Bitmap::deviceIndependent() const {
+Bytes Bitmap::deviceIndependent() const {
     constexpr std::uint32_t headerBytes = 40;
     constexpr std::uint32_t planes = 1;
     constexpr std::uint32_t bitsPerPixel = 24;
@@ -48,7 +43,7 @@ std::vector<std::uint8_t> Bitmap::deviceIndependent() const {
     const std::uint32_t padding = (4 - across * 3 % 4) % 4;
     const std::uint32_t imageBytes = (across * 3 + padding) * down;
 
-    std::vector<std::uint8_t> out;
+    Bytes out;
     out.reserve(headerBytes + imageBytes);
     appendLittleEndian(out, headerBytes, 4);
     appendLittleEndian(out, across, 4);

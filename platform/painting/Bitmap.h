@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/values/Bytes.h"
+
 #include <cstddef>
-#include <cstdint>
-#include <vector>
 
 namespace zilvo::platform {
 
@@ -30,7 +30,7 @@ public:
 
     /// The device-independent form: a 40-byte header, then the rows from the bottom up in blue, green, red
     /// order, each padded to a multiple of four bytes.
-    std::vector<std::uint8_t> deviceIndependent() const;
+    Bytes deviceIndependent() const;
 
 private:
     std::size_t offsetOf(int x, int y) const;

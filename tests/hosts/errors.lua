@@ -1,31 +1,9 @@
 -- What fails, how it fails, and that everything goes on working after it.
 
+local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
+local equal, fails = expect.equal, expect.fails
+
 local here = arg[0]:match("[^/]*$")
-
-local function equal(got, expected, what)
-    if got ~= expected then
-        error(string.format("%s: expected %s, got %s", what or "value", tostring(expected), tostring(got)), 2)
-    end
-end
-
--- Runs `body`, which must fail with a failure of that name whose message has all the parts.
-local function fails(name, body, ...)
-    local done, failure = pcall(body)
-    if done then error("no failure, but " .. name .. " was expected", 2) end
-    if type(failure) ~= "table" then error("not a failure: " .. tostring(failure), 2) end
-    if failure.name ~= name then
-        error("expected " .. name .. ", got " .. tostring(failure.name) .. ": " .. failure.message, 2)
-    end
-    assert(math.type(failure.status) == "integer" and failure.status >= 0x80000000 and failure.status < 0x100000000)
-    for _, part in ipairs { ... } do
-        if not failure.message:find(part, 1, true) then
-            error("no " .. part .. " in the message: " .. failure.message, 2)
-        end
-    end
-    assert(failure.where:find(here .. ":%d+$"), failure.where)
-    equal(tostring(failure), failure.where .. ": " .. failure.message)
-    return failure
-end
 
 local function line() return debug.getinfo(2, "l").currentline end
 

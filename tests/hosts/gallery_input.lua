@@ -1,25 +1,10 @@
 -- The user's keyboard and pointer over a whole control, as a script drives them: what is heard and where the keyboard is.
 
-local function equal(got, expected, what)
-    if got ~= expected then
-        error(string.format("%s: expected %s, got %s", what or "value", tostring(expected), tostring(got)), 2)
-    end
-end
+local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
+local equal, logged = expect.equal, expect.logged
 
 local g = zilvo.create("WidgetGallery")
-local log = {}
-for _, name in ipairs {
-    "CommandClicked", "OptionClicked", "CheckClicked", "SSCheckClicked", "SSOptionClicked", "RibbonClicked",
-    "ImageClicked", "MenuClicked", "SpunUp", "SpunDown", "PanelPressed", "SurfacePressed",
-} do
-    g:on(name, function(...) log[#log + 1] = name .. "(" .. table.concat({ ... }, ",") .. ")" end)
-end
-
-local function heard()
-    local text = table.concat(log, " ")
-    log = {}
-    return text
-end
+local heard = logged(g, "WidgetGallery")
 
 local function focus()
     local name, index = g:focus()

@@ -1,18 +1,7 @@
 -- Every kind of value, argument and event argument on its way between a script and a control.
 
-local function equal(got, expected, what)
-    if got ~= expected then
-        error(string.format("%s: expected %s, got %s", what or "value", tostring(expected), tostring(got)), 2)
-    end
-end
-
-local function fails(name, body)
-    local done, failure = pcall(body)
-    assert(not done, "no failure, but " .. name .. " was expected")
-    assert(type(failure) == "table", tostring(failure))
-    equal(failure.name, name, failure.message)
-    return failure
-end
+local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
+local equal, fails = expect.equal, expect.fails
 
 local g = zilvo.create("WidgetGallery")
 

@@ -1,26 +1,7 @@
 -- Every kind of widget as the user and the script reach it, and what lies in an embedded control.
 
-local function equal(got, expected, what)
-    if got ~= expected then
-        error(string.format("%s: expected %s, got %s", what or "value", tostring(expected), tostring(got)), 2)
-    end
-end
-
-local function logged(control, class)
-    local log = {}
-    for _, each in ipairs(zilvo.describe().classes) do
-        for _, event in ipairs(each.name == class and each.events.members or {}) do
-            control:on(event.name, function(...)
-                log[#log + 1] = event.name .. "(" .. table.concat({ ... }, ",") .. ")"
-            end)
-        end
-    end
-    return function()
-        local text = table.concat(log, " ")
-        log = {}
-        return text
-    end
-end
+local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
+local equal, logged = expect.equal, expect.logged
 
 local g = zilvo.create("WidgetGallery")
 local heard = logged(g, "WidgetGallery")

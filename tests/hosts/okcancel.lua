@@ -1,10 +1,7 @@
 -- Drives ssOKCancel as a host with a window would, and checks what the host sees.
 
-local function equal(got, expected, what)
-    if got ~= expected then
-        error(string.format("%s: expected %s, got %s", what or "value", tostring(expected), tostring(got)), 2)
-    end
-end
+local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
+local equal = expect.equal
 
 local function recorded(control)
     local log = {}

@@ -8,8 +8,6 @@ namespace zilvo {
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
 Bytes resource(StringView name) {
     for (const Resource& each : resourcesOf(libraryModule().description()))
         if (each.name == name) return each.bytes;
