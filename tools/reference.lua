@@ -45,7 +45,7 @@ end
 
 local function readMiscStatusBits()
     local bits = {}
-    for line in io.lines(sources .. "/framework/Identity.h") do
+    for line in io.lines(sources .. "/zilvo/framework/Identity.h") do
         local name, value, meaning = line:match("^    (%w+) = (0x%x+), +///< (.*)$")
         if name then bits[#bits + 1] = { name = name, value = math.tointeger(value), meaning = meaning } end
     end
@@ -237,7 +237,7 @@ local function addClasses(page)
 end
 
 local function addEnumerations(page)
-    local comments, preface = commentsIn(sources .. "/framework/Enumerations.h")
+    local comments, preface = commentsIn(sources .. "/zilvo/framework/Enumerations.h")
     page:paragraph("## Enumerations")
     page:prose(preface)
     for _, enumeration in ipairs(component.enumerations) do
