@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/hosting/ControlSite.h"
+#include "zilvo/platform/hosting/ControlSite.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #include "bench/Bench.h"
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 namespace zilvo::bench {
 

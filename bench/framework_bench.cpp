@@ -1,8 +1,8 @@
 #include "bench/Bench.h"
 #include "bench/Heap.h"
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
 namespace zilvo::bench {
 

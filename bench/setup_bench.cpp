@@ -1,7 +1,7 @@
 #include "bench/Bench.h"
 #include "bench/Heap.h"
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 namespace zilvo::bench {
 

@@ -1,6 +1,6 @@
 // A host that knows no header of the controls and not where their component lies: only what is published.
-#include "platform/component/Components.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/platform/component/Components.h"
+#include "zilvo/platform/component/ControlHost.h"
 #include <iostream>
 
 using namespace zilvo::platform;

@@ -1,5 +1,5 @@
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
 #include <iostream>
 
 int main() {

@@ -1,6 +1,6 @@
 #include "hosts/console/Component.h"
 
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 #include <algorithm>
 

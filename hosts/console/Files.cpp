@@ -1,6 +1,6 @@
 #include "hosts/console/Files.h"
 
-#include "platform/values/Status.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <cerrno>
 #include <fstream>

@@ -1,8 +1,8 @@
 #include "hosts/console/Gallery.h"
 
-#include "platform/component/ControlHost.h"
-#include "platform/painting/FontMetrics.h"
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/platform/component/ControlHost.h"
+#include "zilvo/platform/painting/FontMetrics.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <algorithm>
 #include <memory>

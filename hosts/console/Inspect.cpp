@@ -1,6 +1,6 @@
 #include "hosts/console/Inspect.h"
 
-#include "platform/hosting/HostedControl.h"
+#include "zilvo/platform/hosting/HostedControl.h"
 
 #include <algorithm>
 #include <cctype>

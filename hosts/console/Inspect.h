@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/console/Describe.h"
-#include "platform/component/Object.h"
+#include "zilvo/platform/component/Object.h"
 
 namespace zilvo::console {
 

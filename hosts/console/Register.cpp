@@ -1,7 +1,7 @@
 #include "hosts/console/Register.h"
 
-#include "platform/component/ComponentRuntime.h"
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 namespace zilvo::console {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/Resources.h"
+#include "zilvo/platform/component/Resources.h"
 
 #include <filesystem>
 

@@ -1,7 +1,7 @@
 #include "hosts/console/Snapshot.h"
 
-#include "platform/painting/FontMetrics.h"
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/platform/painting/FontMetrics.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/ControlHost.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <string>
 

@@ -8,8 +8,8 @@
 #include "hosts/console/Snapshot.h"
 #include "hosts/console/lua/LuaHost.h"
 #include "hosts/console/validate/Validate.h"
-#include "platform/component/Components.h"
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/Components.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,5 +1,5 @@
-#include "library/ZilvoButtons.h"
 #include "tests/support/EventLog.h"
+#include "zilvo/library/ZilvoButtons.h"
 
 #include <gtest/gtest.h>
 

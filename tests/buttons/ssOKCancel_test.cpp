@@ -1,7 +1,7 @@
-#include "buttons/ssOKCancel.h"
+#include "zilvo/buttons/ssOKCancel.h"
 
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <gtest/gtest.h>
 

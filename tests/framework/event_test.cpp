@@ -1,5 +1,5 @@
-#include "framework/Event.h"
-#include "library/ZilvoButtons.h"
+#include "zilvo/framework/Event.h"
+#include "zilvo/library/ZilvoButtons.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <gtest/gtest.h>
 

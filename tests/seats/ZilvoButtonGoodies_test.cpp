@@ -1,6 +1,6 @@
-#include "seats/ZilvoButtonGoodies.h"
+#include "zilvo/seats/ZilvoButtonGoodies.h"
 
-#include "library/ZilvoButtons.h"
+#include "zilvo/library/ZilvoButtons.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "setup/SpinCounter.h"
+#include "zilvo/setup/SpinCounter.h"
 
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "library/ZilvoButtons.h"
-#include "platform/component/ControlHost.h"
 #include "tests/support/EventLog.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <gtest/gtest.h>
 

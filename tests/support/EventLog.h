@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/component/ControlHost.h"
-#include "platform/values/Conversions.h"
+#include "zilvo/platform/component/ControlHost.h"
+#include "zilvo/platform/values/Conversions.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "buttons/GOButton.h"
+#include "zilvo/buttons/GOButton.h"
 
 namespace zilvo {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/Label.h"
-#include "platform/widgets/Shape.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/Label.h"
+#include "zilvo/platform/widgets/Shape.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "buttons/GamingCardSelection.h"
+#include "zilvo/buttons/GamingCardSelection.h"
 
 namespace zilvo {
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "buttons/Pictures.h"
-#include "framework/Control.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/CommandButton.h"
-#include "platform/widgets/ControlArray.h"
-#include "platform/widgets/SSCheck.h"
-#include "platform/widgets/SSPanel.h"
-#include "platform/widgets/SSRibbon.h"
+#include "zilvo/buttons/Pictures.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/CommandButton.h"
+#include "zilvo/platform/widgets/ControlArray.h"
+#include "zilvo/platform/widgets/SSCheck.h"
+#include "zilvo/platform/widgets/SSPanel.h"
+#include "zilvo/platform/widgets/SSRibbon.h"
 
 namespace zilvo {
 

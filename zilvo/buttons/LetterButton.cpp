@@ -1,4 +1,4 @@
-#include "buttons/LetterButton.h"
+#include "zilvo/buttons/LetterButton.h"
 
 namespace zilvo {
 

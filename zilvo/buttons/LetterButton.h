@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "platform/widgets/Label.h"
-#include "platform/widgets/Shape.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/platform/widgets/Label.h"
+#include "zilvo/platform/widgets/Shape.h"
 
 namespace zilvo {
 

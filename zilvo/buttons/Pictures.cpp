@@ -1,4 +1,4 @@
-#include "buttons/Pictures.h"
+#include "zilvo/buttons/Pictures.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/Platform.h"
-#include "platform/painting/Bitmap.h"
+#include "zilvo/framework/Platform.h"
+#include "zilvo/platform/painting/Bitmap.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "buttons/PlusMinusButton.h"
+#include "zilvo/buttons/PlusMinusButton.h"
 
 namespace zilvo {
 

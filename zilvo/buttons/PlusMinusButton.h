@@ -1,10 +1,10 @@
 #pragma once
 
-#include "buttons/Pictures.h"
-#include "framework/Control.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/ControlArray.h"
-#include "platform/widgets/Image.h"
+#include "zilvo/buttons/Pictures.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/ControlArray.h"
+#include "zilvo/platform/widgets/Image.h"
 
 namespace zilvo {
 

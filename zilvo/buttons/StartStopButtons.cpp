@@ -1,4 +1,4 @@
-#include "buttons/StartStopButtons.h"
+#include "zilvo/buttons/StartStopButtons.h"
 
 namespace zilvo {
 

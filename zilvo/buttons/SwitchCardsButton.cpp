@@ -1,4 +1,4 @@
-#include "buttons/SwitchCardsButton.h"
+#include "zilvo/buttons/SwitchCardsButton.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "buttons/paneledGOButton.h"
+#include "zilvo/buttons/paneledGOButton.h"
 
 namespace zilvo {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/EmbeddedControl.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/SSPanel.h"
+#include "zilvo/framework/EmbeddedControl.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/SSPanel.h"
 
 namespace zilvo {
 

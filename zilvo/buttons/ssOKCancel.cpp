@@ -1,4 +1,4 @@
-#include "buttons/ssOKCancel.h"
+#include "zilvo/buttons/ssOKCancel.h"
 
 namespace zilvo {
 

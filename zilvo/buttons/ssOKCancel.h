@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "platform/widgets/CommandButton.h"
-#include "platform/widgets/SSPanel.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/platform/widgets/CommandButton.h"
+#include "zilvo/platform/widgets/SSPanel.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "buttons/verticalOK.h"
+#include "zilvo/buttons/verticalOK.h"
 
 namespace zilvo {
 

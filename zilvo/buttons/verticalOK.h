@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "platform/widgets/CommandButton.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/platform/widgets/CommandButton.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "framework/Control.h"
+#include "zilvo/framework/Control.h"
 
 namespace zilvo {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/Event.h"
-#include "framework/UserControl.h"
-#include "platform/hosting/InputRouter.h"
+#include "zilvo/framework/Event.h"
+#include "zilvo/framework/UserControl.h"
+#include "zilvo/platform/hosting/InputRouter.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "framework/EmbeddedControl.h"
+#include "zilvo/framework/EmbeddedControl.h"
 
 namespace zilvo {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/Control.h"
+#include "zilvo/framework/Control.h"
 
 namespace zilvo {
 

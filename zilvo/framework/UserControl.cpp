@@ -1,6 +1,6 @@
-#include "framework/UserControl.h"
+#include "zilvo/framework/UserControl.h"
 
-#include "framework/Control.h"
+#include "zilvo/framework/Control.h"
 
 #include <cmath>
 

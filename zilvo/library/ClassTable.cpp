@@ -1,5 +1,5 @@
-#include "library/ToolboxPictures.h"
-#include "library/ZilvoButtons.h"
+#include "zilvo/library/ToolboxPictures.h"
+#include "zilvo/library/ZilvoButtons.h"
 
 namespace zilvo {
 

@@ -1,5 +1,5 @@
-#include "platform/component/ClassFactory.h"
-#include "platform/component/SelfRegistration.h"
+#include "zilvo/platform/component/ClassFactory.h"
+#include "zilvo/platform/component/SelfRegistration.h"
 
 /// The entry points of every component, each of which hands the request to the platform together with the module.
 

@@ -1,4 +1,4 @@
-#include "library/ZilvoButtons.h"
+#include "zilvo/library/ZilvoButtons.h"
 
 zilvo::ComponentModule& zilvo::platform::componentModule() noexcept {
     return zilvo::libraryModule();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/Identity.h"
-#include "platform/component/Resources.h"
+#include "zilvo/framework/Identity.h"
+#include "zilvo/platform/component/Resources.h"
 
 #include <algorithm>
 

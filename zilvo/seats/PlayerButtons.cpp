@@ -1,4 +1,4 @@
-#include "seats/PlayerButtons.h"
+#include "zilvo/seats/PlayerButtons.h"
 
 namespace zilvo {
 

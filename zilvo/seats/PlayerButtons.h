@@ -1,9 +1,9 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "platform/widgets/ControlArray.h"
-#include "platform/widgets/OptionButton.h"
-#include "platform/widgets/SSPanel.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/platform/widgets/ControlArray.h"
+#include "zilvo/platform/widgets/OptionButton.h"
+#include "zilvo/platform/widgets/SSPanel.h"
 
 namespace zilvo {
 

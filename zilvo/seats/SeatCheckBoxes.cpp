@@ -1,6 +1,6 @@
-#include "seats/SeatCheckBoxes.h"
+#include "zilvo/seats/SeatCheckBoxes.h"
 
-#include "seats/SeatCheckBoxesInterface.h"
+#include "zilvo/seats/SeatCheckBoxesInterface.h"
 
 namespace zilvo {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/CheckBox.h"
-#include "platform/widgets/ControlArray.h"
-#include "platform/widgets/OptionButton.h"
-#include "platform/widgets/SSFrame.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/CheckBox.h"
+#include "zilvo/platform/widgets/ControlArray.h"
+#include "zilvo/platform/widgets/OptionButton.h"
+#include "zilvo/platform/widgets/SSFrame.h"
 
 namespace zilvo {
 

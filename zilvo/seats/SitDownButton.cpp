@@ -1,4 +1,4 @@
-#include "seats/SitDownButton.h"
+#include "zilvo/seats/SitDownButton.h"
 
 namespace zilvo {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/CommandButton.h"
-#include "platform/widgets/ControlArray.h"
-#include "platform/widgets/SSFrame.h"
-#include "platform/widgets/SSOption.h"
-#include "platform/widgets/SSPanel.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/CommandButton.h"
+#include "zilvo/platform/widgets/ControlArray.h"
+#include "zilvo/platform/widgets/SSFrame.h"
+#include "zilvo/platform/widgets/SSOption.h"
+#include "zilvo/platform/widgets/SSPanel.h"
 
 namespace zilvo {
 

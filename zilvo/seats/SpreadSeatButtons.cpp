@@ -1,4 +1,4 @@
-#include "seats/SpreadSeatButtons.h"
+#include "zilvo/seats/SpreadSeatButtons.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "seats/ZilvoButtonGoodies.h"
+#include "zilvo/seats/ZilvoButtonGoodies.h"
 
 #include <limits>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/Enumerations.h"
+#include "zilvo/framework/Enumerations.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "seats/paneledSeatBoxes.h"
+#include "zilvo/seats/paneledSeatBoxes.h"
 
 namespace zilvo {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "framework/EmbeddedControl.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/CommandButton.h"
-#include "platform/widgets/SSPanel.h"
-#include "seats/SeatCheckBoxesInterface.h"
+#include "zilvo/framework/EmbeddedControl.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/CommandButton.h"
+#include "zilvo/platform/widgets/SSPanel.h"
+#include "zilvo/seats/SeatCheckBoxesInterface.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "setup/CardShufflingOptions.h"
+#include "zilvo/setup/CardShufflingOptions.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "setup/CounterKeeper.h"
+#include "zilvo/setup/CounterKeeper.h"
 
 #include <limits>
 

@@ -1,4 +1,4 @@
-#include "setup/DeckButtons.h"
+#include "zilvo/setup/DeckButtons.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "setup/SpinCounter.h"
+#include "zilvo/setup/SpinCounter.h"
 
 namespace zilvo {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "framework/Enumerations.h"
-#include "platform/widgets/Label.h"
-#include "platform/widgets/SpinButton.h"
-#include "setup/CounterKeeper.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/framework/Enumerations.h"
+#include "zilvo/platform/widgets/Label.h"
+#include "zilvo/platform/widgets/SpinButton.h"
+#include "zilvo/setup/CounterKeeper.h"
 
 namespace zilvo {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/console/lua/LuaSession.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <lua.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/Components.h"
+#include "zilvo/platform/component/Components.h"
 
 #include <lua.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/console/Describe.h"
-#include "platform/values/StdFont.h"
+#include "zilvo/platform/values/StdFont.h"
 
 #include <lua.h>
 

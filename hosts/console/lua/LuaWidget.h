@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 #include <lua.h>
 

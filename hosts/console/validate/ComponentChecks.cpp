@@ -1,6 +1,6 @@
 #include "hosts/console/validate/Driver.h"
-#include "platform/component/RegistrationStore.h"
-#include "platform/component/RegistrationText.h"
+#include "zilvo/platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationText.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,6 +1,6 @@
 #include "hosts/console/Snapshot.h"
 #include "hosts/console/validate/Driver.h"
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <algorithm>
 #include <limits>

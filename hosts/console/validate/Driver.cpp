@@ -1,8 +1,8 @@
 #include "hosts/console/validate/Driver.h"
 
 #include "hosts/console/Describe.h"
-#include "platform/painting/SvgPainter.h"
-#include "platform/widgets/SpinButton.h"
+#include "zilvo/platform/painting/SvgPainter.h"
+#include "zilvo/platform/widgets/SpinButton.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/console/validate/Checks.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #include "hosts/console/Describe.h"
 #include "hosts/console/validate/Driver.h"
-#include "platform/component/Resources.h"
+#include "zilvo/platform/component/Resources.h"
 
 #include <algorithm>
 #include <map>

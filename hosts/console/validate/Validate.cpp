@@ -2,7 +2,7 @@
 
 #include "hosts/console/Describe.h"
 #include "hosts/console/validate/Checks.h"
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
-#include "library/ZilvoButtons.h"
-#include "platform/component/Components.h"
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/Components.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 #include <csignal>
 #include <cstdlib>

@@ -1,5 +1,5 @@
-#include "library/ZilvoButtons.h"
-#include "platform/component/Resources.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/Resources.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "library/ZilvoButtons.h"
-#include "platform/component/ComponentRuntime.h"
-#include "platform/component/ControlHost.h"
+#include "zilvo/library/ZilvoButtons.h"
+#include "zilvo/platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 #include <dlfcn.h>
 #include <fstream>

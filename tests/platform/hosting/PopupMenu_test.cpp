@@ -1,6 +1,6 @@
 #include "tests/support/gallery/GalleryHost.h"
 
-#include "platform/hosting/PopupMenu.h"
+#include "zilvo/platform/hosting/PopupMenu.h"
 
 namespace zilvo {
 namespace {

@@ -1,6 +1,6 @@
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
-#include "platform/painting/FontMetrics.h"
+#include "zilvo/platform/painting/FontMetrics.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/painting/TextLayout.h"
+#include "zilvo/platform/painting/TextLayout.h"
 
 #include <gtest/gtest.h>
 

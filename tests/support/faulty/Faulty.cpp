@@ -1,8 +1,8 @@
-#include "framework/Control.h"
-#include "platform/component/ClassFactory.h"
-#include "platform/component/RegistrationStore.h"
-#include "platform/component/SelfRegistration.h"
-#include "platform/widgets/CommandButton.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/platform/component/ClassFactory.h"
+#include "zilvo/platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/SelfRegistration.h"
+#include "zilvo/platform/widgets/CommandButton.h"
 
 #include <cstdlib>
 #include <iostream>

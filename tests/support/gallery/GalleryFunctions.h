@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/Platform.h"
+#include "zilvo/framework/Platform.h"
 
 namespace zilvo {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/painting/SvgPainter.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/gallery/GalleryLibrary.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <gtest/gtest.h>
 

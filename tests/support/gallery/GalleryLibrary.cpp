@@ -1,6 +1,6 @@
 #include "tests/support/gallery/GalleryLibrary.h"
 
-#include "framework/Identity.h"
+#include "zilvo/framework/Identity.h"
 
 namespace zilvo {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/component/ClassFactory.h"
 #include "tests/support/gallery/GalleryFunctions.h"
 #include "tests/support/gallery/Outer.h"
 #include "tests/support/gallery/Small.h"
 #include "tests/support/gallery/WidgetGallery.h"
+#include "zilvo/platform/component/ClassFactory.h"
 
 namespace zilvo {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/painting/Bitmap.h"
+#include "zilvo/platform/painting/Bitmap.h"
 
 namespace zilvo {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/EmbeddedControl.h"
-#include "platform/widgets/CommandButton.h"
 #include "tests/support/gallery/Small.h"
+#include "zilvo/framework/EmbeddedControl.h"
+#include "zilvo/platform/widgets/CommandButton.h"
 
 namespace zilvo {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "framework/Control.h"
-#include "platform/widgets/ControlArray.h"
-#include "platform/widgets/Menu.h"
-#include "platform/widgets/SSOption.h"
+#include "zilvo/framework/Control.h"
+#include "zilvo/platform/widgets/ControlArray.h"
+#include "zilvo/platform/widgets/Menu.h"
+#include "zilvo/platform/widgets/SSOption.h"
 
 namespace zilvo {
 

@@ -1,4 +1,4 @@
-#include "platform/component/ClassFactory.h"
+#include "zilvo/platform/component/ClassFactory.h"
 
 #include <memory>
 

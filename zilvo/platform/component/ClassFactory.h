@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/Object.h"
+#include "zilvo/platform/component/Object.h"
 
 namespace zilvo::platform {
 

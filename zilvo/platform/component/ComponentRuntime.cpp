@@ -1,4 +1,4 @@
-#include "platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/ComponentRuntime.h"
 
 #include <array>
 #include <cstring>

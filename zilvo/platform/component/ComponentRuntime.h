@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/component/ClassFactory.h"
-#include "platform/component/SelfRegistration.h"
+#include "zilvo/platform/component/ClassFactory.h"
+#include "zilvo/platform/component/SelfRegistration.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,6 +1,6 @@
-#include "platform/component/Components.h"
+#include "zilvo/platform/component/Components.h"
 
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/ComponentRuntime.h"
 
 #include <deque>
 

@@ -1,4 +1,4 @@
-#include "platform/component/ControlHost.h"
+#include "zilvo/platform/component/ControlHost.h"
 
 namespace zilvo::platform {
 

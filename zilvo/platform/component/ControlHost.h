@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/component/Object.h"
-#include "platform/hosting/HostedControl.h"
+#include "zilvo/platform/component/Object.h"
+#include "zilvo/platform/hosting/HostedControl.h"
 
 #include <functional>
 

@@ -1,4 +1,4 @@
-#include "platform/component/Events.h"
+#include "zilvo/platform/component/Events.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/component/Module.h"
-#include "platform/values/Members.h"
+#include "zilvo/platform/component/Module.h"
+#include "zilvo/platform/values/Members.h"
 
 namespace zilvo::platform {
 

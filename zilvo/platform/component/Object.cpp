@@ -1,4 +1,4 @@
-#include "platform/component/Object.h"
+#include "zilvo/platform/component/Object.h"
 
 namespace zilvo::platform {
 

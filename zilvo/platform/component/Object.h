@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/TypeInformation.h"
+#include "zilvo/platform/component/TypeInformation.h"
 
 namespace zilvo::platform {
 

@@ -1,4 +1,4 @@
-#include "platform/component/Registration.h"
+#include "zilvo/platform/component/Registration.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
-#include "platform/component/RegistrationFile.h"
+#include "zilvo/platform/component/RegistrationFile.h"
 
-#include "platform/values/Status.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <array>
 #include <cerrno>

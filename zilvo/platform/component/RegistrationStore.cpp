@@ -1,7 +1,7 @@
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
-#include "platform/component/RegistrationFile.h"
-#include "platform/component/RegistrationText.h"
+#include "zilvo/platform/component/RegistrationFile.h"
+#include "zilvo/platform/component/RegistrationText.h"
 
 #include <algorithm>
 #include <cstdlib>

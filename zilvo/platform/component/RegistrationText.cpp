@@ -1,4 +1,4 @@
-#include "platform/component/RegistrationText.h"
+#include "zilvo/platform/component/RegistrationText.h"
 
 #include <algorithm>
 #include <charconv>

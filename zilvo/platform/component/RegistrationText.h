@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/Registration.h"
+#include "zilvo/platform/component/Registration.h"
 
 #include <span>
 

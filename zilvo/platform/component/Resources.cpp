@@ -1,4 +1,4 @@
-#include "platform/component/Resources.h"
+#include "zilvo/platform/component/Resources.h"
 
 #include <algorithm>
 

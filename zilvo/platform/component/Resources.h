@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/component/TypeInformation.h"
-#include "platform/painting/Bitmap.h"
+#include "zilvo/platform/component/TypeInformation.h"
+#include "zilvo/platform/painting/Bitmap.h"
 
 namespace zilvo::platform {
 

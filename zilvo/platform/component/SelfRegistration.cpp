@@ -1,6 +1,6 @@
-#include "platform/component/SelfRegistration.h"
+#include "zilvo/platform/component/SelfRegistration.h"
 
-#include "platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationStore.h"
 
 #include <dlfcn.h>
 

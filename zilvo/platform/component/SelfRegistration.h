@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/component/Module.h"
-#include "platform/values/Status.h"
+#include "zilvo/platform/component/Module.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <cstdint>
 

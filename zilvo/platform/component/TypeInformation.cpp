@@ -1,6 +1,6 @@
-#include "platform/component/TypeInformation.h"
+#include "zilvo/platform/component/TypeInformation.h"
 
-#include "platform/component/Object.h"
+#include "zilvo/platform/component/Object.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/component/Events.h"
+#include "zilvo/platform/component/Events.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "platform/hosting/ControlSite.h"
+#include "zilvo/platform/hosting/ControlSite.h"
 
 namespace zilvo::platform {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/values/StdFont.h"
-#include "platform/values/Units.h"
+#include "zilvo/platform/values/StdFont.h"
+#include "zilvo/platform/values/Units.h"
 
 namespace zilvo::platform {
 

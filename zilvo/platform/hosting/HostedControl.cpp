@@ -1,4 +1,4 @@
-#include "platform/hosting/HostedControl.h"
+#include "zilvo/platform/hosting/HostedControl.h"
 
 namespace zilvo::platform {
 

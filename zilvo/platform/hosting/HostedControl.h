@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/hosting/ControlSite.h"
-#include "platform/hosting/Input.h"
-#include "platform/hosting/PropertyBag.h"
-#include "platform/widgets/Menu.h"
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/hosting/ControlSite.h"
+#include "zilvo/platform/hosting/Input.h"
+#include "zilvo/platform/hosting/PropertyBag.h"
+#include "zilvo/platform/widgets/Menu.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 

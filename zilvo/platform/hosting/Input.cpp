@@ -1,6 +1,6 @@
-#include "platform/hosting/Input.h"
+#include "zilvo/platform/hosting/Input.h"
 
-#include "platform/values/Text.h"
+#include "zilvo/platform/values/Text.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/values/Kinds.h"
-#include "platform/values/Units.h"
+#include "zilvo/platform/values/Kinds.h"
+#include "zilvo/platform/values/Units.h"
 
 #include <chrono>
 #include <optional>

@@ -1,7 +1,7 @@
-#include "platform/hosting/InputRouter.h"
+#include "zilvo/platform/hosting/InputRouter.h"
 
-#include "platform/widgets/CommandButton.h"
-#include "platform/widgets/SpinButton.h"
+#include "zilvo/platform/widgets/CommandButton.h"
+#include "zilvo/platform/widgets/SpinButton.h"
 
 #include <algorithm>
 

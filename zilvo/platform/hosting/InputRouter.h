@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/hosting/Input.h"
-#include "platform/hosting/PopupMenu.h"
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/hosting/Input.h"
+#include "zilvo/platform/hosting/PopupMenu.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 

@@ -1,9 +1,9 @@
-#include "platform/hosting/PopupMenu.h"
+#include "zilvo/platform/hosting/PopupMenu.h"
 
-#include "platform/painting/FontMetrics.h"
-#include "platform/painting/TextLayout.h"
-#include "platform/widgets/Look.h"
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/painting/FontMetrics.h"
+#include "zilvo/platform/painting/TextLayout.h"
+#include "zilvo/platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 #include <algorithm>
 

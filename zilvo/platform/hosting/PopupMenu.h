@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/hosting/Input.h"
-#include "platform/widgets/Menu.h"
+#include "zilvo/platform/hosting/Input.h"
+#include "zilvo/platform/widgets/Menu.h"
 
 namespace zilvo::platform {
 

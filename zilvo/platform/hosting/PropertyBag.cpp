@@ -1,6 +1,6 @@
-#include "platform/hosting/PropertyBag.h"
+#include "zilvo/platform/hosting/PropertyBag.h"
 
-#include "platform/values/Text.h"
+#include "zilvo/platform/values/Text.h"
 
 #include <algorithm>
 

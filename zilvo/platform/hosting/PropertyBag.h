@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Conversions.h"
+#include "zilvo/platform/values/Conversions.h"
 
 #include <optional>
 #include <vector>

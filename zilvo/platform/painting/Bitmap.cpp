@@ -1,6 +1,6 @@
-#include "platform/painting/Bitmap.h"
+#include "zilvo/platform/painting/Bitmap.h"
 
-#include "platform/values/Status.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Bytes.h"
+#include "zilvo/platform/values/Bytes.h"
 
 #include <cstddef>
 

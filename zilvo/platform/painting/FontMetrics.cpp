@@ -1,7 +1,7 @@
-#include "platform/painting/FontMetrics.h"
+#include "zilvo/platform/painting/FontMetrics.h"
 
-#include "platform/values/Text.h"
-#include "platform/values/Units.h"
+#include "zilvo/platform/values/Text.h"
+#include "zilvo/platform/values/Units.h"
 
 #include <algorithm>
 #include <array>

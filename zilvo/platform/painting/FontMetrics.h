@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/StdFont.h"
+#include "zilvo/platform/values/StdFont.h"
 
 namespace zilvo::platform {
 

@@ -1,4 +1,4 @@
-#include "platform/painting/Painter.h"
+#include "zilvo/platform/painting/Painter.h"
 
 #include <array>
 

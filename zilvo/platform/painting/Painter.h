@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/painting/Bitmap.h"
-#include "platform/values/StdFont.h"
-#include "platform/values/Units.h"
+#include "zilvo/platform/painting/Bitmap.h"
+#include "zilvo/platform/values/StdFont.h"
+#include "zilvo/platform/values/Units.h"
 
 #include <optional>
 #include <span>

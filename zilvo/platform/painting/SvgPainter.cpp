@@ -1,7 +1,7 @@
-#include "platform/painting/SvgPainter.h"
+#include "zilvo/platform/painting/SvgPainter.h"
 
-#include "platform/painting/FontMetrics.h"
-#include "platform/values/Text.h"
+#include "zilvo/platform/painting/FontMetrics.h"
+#include "zilvo/platform/values/Text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/painting/Painter.h"
+#include "zilvo/platform/painting/Painter.h"
 
 namespace zilvo::platform {
 

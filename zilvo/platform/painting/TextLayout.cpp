@@ -1,6 +1,6 @@
-#include "platform/painting/TextLayout.h"
+#include "zilvo/platform/painting/TextLayout.h"
 
-#include "platform/values/Text.h"
+#include "zilvo/platform/values/Text.h"
 
 #include <algorithm>
 #include <cmath>

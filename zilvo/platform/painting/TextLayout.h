@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/painting/FontMetrics.h"
-#include "platform/painting/Painter.h"
+#include "zilvo/platform/painting/FontMetrics.h"
+#include "zilvo/platform/painting/Painter.h"
 
 namespace zilvo::platform {
 

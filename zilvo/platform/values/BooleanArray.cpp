@@ -1,6 +1,6 @@
-#include "platform/values/BooleanArray.h"
+#include "zilvo/platform/values/BooleanArray.h"
 
-#include "platform/values/Status.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <limits>
 #include <utility>

@@ -1,8 +1,8 @@
-#include "platform/values/Conversions.h"
+#include "zilvo/platform/values/Conversions.h"
 
-#include "platform/values/Status.h"
-#include "platform/values/StdFont.h"
-#include "platform/values/Text.h"
+#include "zilvo/platform/values/Status.h"
+#include "zilvo/platform/values/StdFont.h"
+#include "zilvo/platform/values/Text.h"
 
 #include <array>
 #include <bit>

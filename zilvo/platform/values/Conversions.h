@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Variant.h"
+#include "zilvo/platform/values/Variant.h"
 
 #include <type_traits>
 

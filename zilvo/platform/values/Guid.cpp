@@ -1,4 +1,4 @@
-#include "platform/values/Guid.h"
+#include "zilvo/platform/values/Guid.h"
 
 #include <cstdio>
 

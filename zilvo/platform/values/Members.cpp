@@ -1,4 +1,4 @@
-#include "platform/values/Members.h"
+#include "zilvo/platform/values/Members.h"
 
 namespace zilvo::platform {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/values/Conversions.h"
-#include "platform/values/Guid.h"
-#include "platform/values/Status.h"
-#include "platform/values/Text.h"
+#include "zilvo/platform/values/Conversions.h"
+#include "zilvo/platform/values/Guid.h"
+#include "zilvo/platform/values/Status.h"
+#include "zilvo/platform/values/Text.h"
 
 #include <array>
 #include <span>

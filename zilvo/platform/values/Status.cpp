@@ -1,4 +1,4 @@
-#include "platform/values/Status.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <new>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "platform/values/StdFont.h"
+#include "zilvo/platform/values/StdFont.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Members.h"
+#include "zilvo/platform/values/Members.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "platform/values/Text.h"
+#include "zilvo/platform/values/Text.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Kinds.h"
+#include "zilvo/platform/values/Kinds.h"
 
 #include <memory>
 

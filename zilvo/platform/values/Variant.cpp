@@ -1,7 +1,7 @@
-#include "platform/values/Variant.h"
+#include "zilvo/platform/values/Variant.h"
 
-#include "platform/values/Conversions.h"
-#include "platform/values/StdFont.h"
+#include "zilvo/platform/values/Conversions.h"
+#include "zilvo/platform/values/StdFont.h"
 
 #include <array>
 #include <type_traits>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/values/BooleanArray.h"
-#include "platform/values/Kinds.h"
+#include "zilvo/platform/values/BooleanArray.h"
+#include "zilvo/platform/values/Kinds.h"
 
 #include <concepts>
 #include <memory>

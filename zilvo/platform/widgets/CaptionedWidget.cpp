@@ -1,4 +1,4 @@
-#include "platform/widgets/CaptionedWidget.h"
+#include "zilvo/platform/widgets/CaptionedWidget.h"
 
 namespace zilvo::platform {
 

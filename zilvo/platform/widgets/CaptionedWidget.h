@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/widgets/WidgetFont.h"
+#include "zilvo/platform/widgets/WidgetFont.h"
 
 namespace zilvo::platform {
 

@@ -1,4 +1,4 @@
-#include "platform/widgets/CheckBox.h"
+#include "zilvo/platform/widgets/CheckBox.h"
 
 namespace zilvo::platform {
 

@@ -1,7 +1,7 @@
-#include "platform/widgets/CommandButton.h"
+#include "zilvo/platform/widgets/CommandButton.h"
 
-#include "platform/widgets/Look.h"
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 

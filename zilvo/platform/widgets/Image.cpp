@@ -1,4 +1,4 @@
-#include "platform/widgets/Image.h"
+#include "zilvo/platform/widgets/Image.h"
 
 namespace zilvo::platform {
 

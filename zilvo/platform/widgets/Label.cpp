@@ -1,6 +1,6 @@
-#include "platform/widgets/Label.h"
+#include "zilvo/platform/widgets/Label.h"
 
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Look.h"
 
 namespace zilvo::platform {
 

@@ -1,4 +1,4 @@
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Look.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/painting/TextLayout.h"
+#include "zilvo/platform/painting/TextLayout.h"
 
 namespace zilvo::platform::look {
 

@@ -1,4 +1,4 @@
-#include "platform/widgets/MarkedWidget.h"
+#include "zilvo/platform/widgets/MarkedWidget.h"
 
 namespace zilvo::platform {
 

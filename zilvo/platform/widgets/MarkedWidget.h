@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/widgets/CaptionedWidget.h"
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/CaptionedWidget.h"
+#include "zilvo/platform/widgets/Look.h"
 
 namespace zilvo::platform {
 

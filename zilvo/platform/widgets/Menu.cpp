@@ -1,6 +1,6 @@
-#include "platform/widgets/Menu.h"
+#include "zilvo/platform/widgets/Menu.h"
 
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/widgets/Widget.h"
+#include "zilvo/platform/widgets/Widget.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "platform/widgets/OptionButton.h"
+#include "zilvo/platform/widgets/OptionButton.h"
 
 namespace zilvo::platform {
 

@@ -1,4 +1,4 @@
-#include "platform/widgets/SSCheck.h"
+#include "zilvo/platform/widgets/SSCheck.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
-#include "platform/widgets/SSFrame.h"
+#include "zilvo/platform/widgets/SSFrame.h"
 
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Look.h"
 
 namespace zilvo::platform {
 

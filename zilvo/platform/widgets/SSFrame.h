@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/widgets/CaptionedWidget.h"
+#include "zilvo/platform/widgets/CaptionedWidget.h"
 
 namespace zilvo::platform {
 

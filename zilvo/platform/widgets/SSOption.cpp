@@ -1,4 +1,4 @@
-#include "platform/widgets/SSOption.h"
+#include "zilvo/platform/widgets/SSOption.h"
 
 namespace zilvo::platform {
 

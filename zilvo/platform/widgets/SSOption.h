@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/widgets/MarkedWidget.h"
+#include "zilvo/platform/widgets/MarkedWidget.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
-#include "platform/widgets/SSPanel.h"
+#include "zilvo/platform/widgets/SSPanel.h"
 
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Look.h"
 
 namespace zilvo::platform {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/painting/TextLayout.h"
-#include "platform/widgets/CaptionedWidget.h"
+#include "zilvo/platform/painting/TextLayout.h"
+#include "zilvo/platform/widgets/CaptionedWidget.h"
 
 namespace zilvo::platform {
 

@@ -1,6 +1,6 @@
-#include "platform/widgets/SSRibbon.h"
+#include "zilvo/platform/widgets/SSRibbon.h"
 
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Look.h"
 
 namespace zilvo::platform {
 

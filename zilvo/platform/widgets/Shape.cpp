@@ -1,4 +1,4 @@
-#include "platform/widgets/Shape.h"
+#include "zilvo/platform/widgets/Shape.h"
 
 #include <algorithm>
 

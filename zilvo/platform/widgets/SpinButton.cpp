@@ -1,6 +1,6 @@
-#include "platform/widgets/SpinButton.h"
+#include "zilvo/platform/widgets/SpinButton.h"
 
-#include "platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Look.h"
 
 namespace zilvo::platform {
 

@@ -1,4 +1,4 @@
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 #include <algorithm>
 #include <vector>

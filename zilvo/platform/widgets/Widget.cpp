@@ -1,6 +1,6 @@
-#include "platform/widgets/Widget.h"
+#include "zilvo/platform/widgets/Widget.h"
 
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/painting/Painter.h"
-#include "platform/values/Members.h"
-#include "platform/values/Units.h"
-#include "platform/widgets/Delegate.h"
+#include "zilvo/platform/painting/Painter.h"
+#include "zilvo/platform/values/Members.h"
+#include "zilvo/platform/values/Units.h"
+#include "zilvo/platform/widgets/Delegate.h"
 
 #include <chrono>
 

@@ -1,6 +1,6 @@
-#include "platform/widgets/WidgetFont.h"
+#include "zilvo/platform/widgets/WidgetFont.h"
 
-#include "platform/widgets/Surface.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 
