@@ -7,6 +7,7 @@
 #include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
 #include "hosts/console/lua/LuaHost.h"
+#include "hosts/console/lua/Transcripts.h"
 #include "hosts/console/validate/Validate.h"
 #include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/RegistrationStore.h"
@@ -28,12 +29,14 @@ struct CommandLine {
     std::filesystem::path registrations;
     std::filesystem::path file;      ///< to register, unregister or validate
     std::vector<std::string> script; ///< the file, then its arguments
+    std::vector<std::string> transcripts;
     std::string className;
     std::vector<std::string> classNames;
     std::vector<std::string> resourceNames;
     std::filesystem::path directory;
     std::filesystem::path picture;
     unsigned timeout = 10; ///< seconds
+    bool write = false;
     bool json = false;
     bool idl = false;
 };
@@ -51,6 +54,15 @@ int repl(const CommandLine& given) {
     LuaHost host(components);
     host.converse(std::cin, isatty(STDIN_FILENO) != 0);
     return 0;
+}
+
+int transcript(const CommandLine& given) {
+    return playTranscripts({.files = given.transcripts,
+                            .component = given.component,
+                            .limit = std::chrono::seconds(given.timeout),
+                            .write = given.write})
+               ? 0
+               : 1;
 }
 
 int list(const CommandLine&, const LoadedComponent& component) {
@@ -193,6 +205,11 @@ private:
     CLI::Option* takeDirectory(CLI::App& where) {
         return where.add_option("-o,--output", given_.directory, "where the files go")->type_name("DIR");
     }
+    void takeTimeout(CLI::App& where, const std::string& text) {
+        where.add_option("--timeout", given_.timeout, text + ", 10 unless given")
+            ->type_name("SECONDS")
+            ->check(CLI::Range(1U, 86400U));
+    }
     void takeFile(CLI::App& where) {
         where.add_option("file", given_.file, "the component file")->type_name("FILE")->required();
     }
@@ -207,6 +224,11 @@ private:
             given_.script = runs.remaining();
             if (given_.script.empty()) throw CLI::RequiredError("FILE.lua");
         });
+        CLI::App& plays =
+            add("transcript", "plays transcripts and shows where what happens is not what is written", transcript);
+        plays.add_option("files", given_.transcripts, "the transcripts")->type_name("FILE.lua")->required();
+        plays.add_flag("--write", given_.write, "writes what is observed into them");
+        takeTimeout(plays, "how long each statement may take");
         add("repl", "reads and runs statements from standard input", repl);
     }
 
@@ -247,9 +269,7 @@ private:
         CLI::App& validates = add("validate", "checks a component before it is trusted", validateFile);
         takeFile(validates);
         takeJson(validates);
-        validates.add_option("--timeout", given_.timeout, "how long each check may take, 10 unless given")
-            ->type_name("SECONDS")
-            ->check(CLI::Range(1U, 86400U));
+        takeTimeout(validates, "how long each check may take");
     }
 
     CLI::App app_{"Hosts the controls of a component without a screen.", "zilvo"};

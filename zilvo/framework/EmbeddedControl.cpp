@@ -118,8 +118,9 @@ void EmbeddedControl::Beep() {
     outerSurface_.Beep();
 }
 
-void EmbeddedControl::showPopup(Menu& root) {
+bool EmbeddedControl::ShowPopup(Menu& root) {
     outerSurface_.PopupMenu(root);
+    return true;
 }
 
 void EmbeddedControl::Event(Long number, std::span<Variant> arguments) {

@@ -66,8 +66,8 @@ private:
     void SizeChanged(Single width, Single height) override;
     void ViewChanged() noexcept override { changed(); }
     void Beep() override;
+    bool ShowPopup(Menu& root) override;
     const Widget* embeddingWidget() const noexcept override { return this; }
-    void showPopup(Menu& root) override;
 
     // EventSink
     void Event(Long number, std::span<Variant> arguments) override;

@@ -109,10 +109,7 @@ Extender& UserControl::get_Extender() {
 }
 
 void UserControl::PopupMenu(Menu& root) {
-    if (embeddingWidget())
-        site_->showPopup(root);
-    else
-        owner_.router_.showPopup(root);
+    if (!site_ || !site_->ShowPopup(root)) owner_.router_.showPopup(root);
     viewChanged();
 }
 

@@ -1,6 +1,7 @@
 #include "hosts/console/lua/LuaControl.h"
 
 #include "hosts/console/Files.h"
+#include "hosts/console/Inspect.h"
 #include "hosts/console/Snapshot.h"
 #include "hosts/console/lua/LuaErrors.h"
 #include "hosts/console/lua/LuaEvents.h"
@@ -114,6 +115,15 @@ int widget(lua_State* L) {
     return 1;
 }
 
+/// "saves Default Boolean True, Height Single 360", in the order of writing.
+std::string savedText(const MemoryPropertyBag& bag) {
+    std::string text;
+    for (const auto& [name, value] : bag.settings())
+        text += (text.empty() ? "saves " : ", ") + toUtf8(name) + " " + toUtf8(nameOf(value.kind())) + " " +
+                shownValue(value);
+    return text.empty() ? "saves nothing" : text;
+}
+
 /// c:save([keepsDefaults]) gives two tables: the values, and the names of their kinds.
 int save(lua_State* L) {
     if (!lua_isnoneornil(L, 2) && !lua_isboolean(L, 2))
@@ -121,6 +131,7 @@ int save(lua_State* L) {
     using Defaults = MemoryPropertyBag::Defaults;
     MemoryPropertyBag bag(lua_toboolean(L, 2) ? Defaults::Kept : Defaults::LeftOut);
     hostAt(L, 1).save(bag);
+    if (Observer* observer = sessionOf(L).observer) observer->note(*objectAt(L, 1).object, savedText(bag));
     lua_newtable(L);
     lua_newtable(L);
     for (const auto& [name, value] : bag.settings()) {
@@ -166,6 +177,12 @@ int invokeById(lua_State* L) {
     return 0;
 }
 
+/// The live widget tree.
+int inspect(lua_State* L) {
+    pushJson(L, inspection(*objectAt(L, 1).object));
+    return 1;
+}
+
 int snapshot(lua_State* L) {
     ControlHost& host = hostAt(L, 1);
     const auto file = toUtf8(textAt(L, 2, "snapshot"));
@@ -177,7 +194,7 @@ constexpr luaL_Reg methods[] = {
     {"widget", guarded<widget>},     {"on", guarded<attachHandler>},  {"press", guarded<press>},
     {"release", guarded<release>},   {"move", guarded<move>},         {"key", guarded<key>},
     {"keydown", guarded<keyDown>},   {"focus", guarded<focus>},       {"save", guarded<save>},
-    {"invoke", guarded<invokeById>}, {"snapshot", guarded<snapshot>},
+    {"invoke", guarded<invokeById>}, {"snapshot", guarded<snapshot>}, {"inspect", guarded<inspect>},
 };
 
 /// What is read without a call: each is run with the control as its argument.
@@ -312,6 +329,7 @@ int createObject(lua_State* L) {
 
     LuaControl control{session.nextNumber(), session.components.create(className), nullptr, {}};
     defineGlobals(L);
+    if (session.observer) session.observer->created(*control.object);
     if (control.object->hostedControl()) {
         control.host = std::make_unique<ScriptedControl>(control.object, session);
         for (const auto& [name, value] : options.ambient)

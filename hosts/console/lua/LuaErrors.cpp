@@ -123,14 +123,17 @@ Failure keepError(lua_State* L) {
 }
 
 int raiseCurrentException(lua_State* L) {
-    if (Session& session = sessionOf(L); session.errorIsKept) {
+    Session& session = sessionOf(L);
+    if (session.errorIsKept) {
         session.errorIsKept = false;
         lua_rawgetp(L, LUA_REGISTRYINDEX, &KeptError);
         lua_pushboolean(L, 0);
         lua_rawsetp(L, LUA_REGISTRYINDEX, &KeptError);
+        if (session.observer) session.observer->note("fails as the handler did");
     } else {
         ErrorInfo error;
         const Status status = statusOfCurrentException(&error, {});
+        if (session.observer) session.observer->note(std::string("fails: ") + nameOf(status) + ": " + error.message);
         luaL_checkstack(L, 6, "for a failure");
         pushFailure(L, status, error.message);
     }

@@ -11,7 +11,10 @@
 #include <lauxlib.h>
 #include <lualib.h>
 
+#include <algorithm>
 #include <iostream>
+#include <iterator>
+#include <map>
 
 namespace zilvo::console {
 
@@ -107,11 +110,80 @@ int runScript(lua_State* L) {
     return 0;
 }
 
+constexpr unsigned DeepestShown = 4;
+
+/// As Lua's own print writes it, but a table with what is in it: "{Cancel = true, 5}", named fields first and in the
+/// order of their names.
+std::string shownForPeople(lua_State* L, int index, unsigned depth = 0) {
+    luaL_checkstack(L, 6, "for printing");
+    const int before = lua_gettop(L);
+    if (!lua_istable(L, index) || luaL_getmetafield(L, index, "__tostring") != LUA_TNIL) {
+        std::string text = luaL_tolstring(L, index, nullptr);
+        lua_settop(L, before);
+        return text;
+    }
+    if (depth == DeepestShown) return "{...}";
+    std::map<std::string, std::string> named;
+    for (lua_pushnil(L); lua_next(L, index) != 0; lua_pop(L, 1))
+        if (lua_type(L, -2) == LUA_TSTRING) named[lua_tostring(L, -2)] = shownForPeople(L, lua_gettop(L), depth + 1);
+    std::string text;
+    for (const auto& [name, value] : named)
+        text += (text.empty() ? "" : ", ") + name + " = " + value;
+    const auto count = static_cast<lua_Integer>(lua_rawlen(L, index));
+    for (lua_Integer at = 1; at <= count; ++at) {
+        lua_rawgeti(L, index, at);
+        text += (text.empty() ? "" : ", ") + shownForPeople(L, lua_gettop(L), depth + 1);
+        lua_pop(L, 1);
+    }
+    return "{" + text + "}";
+}
+
+struct Played {
+    std::string script;
+    std::string name;
+};
+
+/// The script's own lines, not those of the functions that it calls.
+void onLine(lua_State* L, lua_Debug* frame) {
+    lua_getinfo(L, "S", frame);
+    Session& session = sessionOf(L);
+    if (std::string_view(frame->what) == "main" && session.reached)
+        session.reached(static_cast<std::size_t>(frame->currentline));
+}
+
+/// As Lua's own print, but it is one of the things that are observed. A table is shown with what is in it.
+int printObserved(lua_State* L) {
+    std::string text;
+    const int count = lua_gettop(L);
+    for (int at = 1; at <= count; ++at)
+        text += " " + shownForPeople(L, at);
+    std::ranges::replace_if(
+        text, [](unsigned char letter) { return letter < 0x20; }, ' ');
+    if (Observer* observer = sessionOf(L).observer) observer->note("prints" + text);
+    return 0;
+}
+
+int runPlayed(lua_State* L) {
+    const auto& played = *static_cast<const Played*>(lua_touserdata(L, 1));
+    lua_pushcfunction(L, guarded<printObserved>);
+    lua_setglobal(L, "print");
+    if (luaL_loadbufferx(L, played.script.data(), played.script.size(), played.name.c_str(), "t") != LUA_OK)
+        return lua_error(L);
+    lua_sethook(L, onLine, LUA_MASKLINE, 0);
+    lua_call(L, 0, 0);
+    return 0;
+}
+
 /// A statement of a conversation: what has been typed of it so far.
 struct Statement {
     std::string text;
     bool isIncomplete = false;
 };
+
+/// Whether the syntax error on top of the stack is that something is missing at the end.
+bool endsTooEarly(lua_State* L) {
+    return std::string_view(lua_tostring(L, -1)).ends_with("<eof>");
+}
 
 /// Loads it as an expression or, failing that, as statements.
 bool load(lua_State* L, Statement& statement) {
@@ -121,7 +193,7 @@ bool load(lua_State* L, Statement& statement) {
     if (loads("return " + statement.text)) return true;
     lua_pop(L, 1);
     if (loads(statement.text)) return true;
-    statement.isIncomplete = std::string_view(lua_tostring(L, -1)).ends_with("<eof>");
+    statement.isIncomplete = endsTooEarly(L);
     return false;
 }
 
@@ -170,6 +242,41 @@ int LuaHost::run(const std::string& file, const std::vector<std::string>& argume
     std::cout.flush();
     if (!succeeded) std::cerr << "zilvo: " << errorOf(lua_.get()) << '\n';
     return succeeded ? 0 : 1;
+}
+
+bool LuaHost::isWhole(const std::string& lines) {
+    lua_State* L = lua_.get();
+    const bool loads = luaL_loadbufferx(L, lines.data(), lines.size(), "=transcript", "t") == LUA_OK;
+    const bool ends = loads || !endsTooEarly(L);
+    lua_pop(L, 1);
+    return ends;
+}
+
+bool LuaHost::play(Transcript& transcript, const std::string& file, const std::function<void(std::size_t)>& reached) {
+    Observer observer;
+    Transcript::Statement* running = nullptr;
+    const auto finish = [&] {
+        auto lines = observer.taken();
+        if (running) std::ranges::move(lines, std::back_inserter(running->observed));
+    };
+    session_.reached = [&](std::size_t line) {
+        Transcript::Statement* statement = transcript.at(line);
+        if (!statement || statement == running) return;
+        finish();
+        running = statement;
+        running->hasRun = true;
+        reached(running->first);
+    };
+    session_.observer = &observer;
+    const Played played{transcript.script(), "@" + file};
+    const bool succeeded = callProtected(lua_.get(), runPlayed, played);
+    lua_sethook(lua_.get(), nullptr, 0, 0);
+    if (!succeeded) std::cerr << "zilvo: " << errorOf(lua_.get()) << '\n';
+    finish();
+    session_.observer = nullptr;
+    session_.reached = nullptr;
+    std::cout.flush();
+    return succeeded;
 }
 
 void LuaHost::converse(std::istream& in, bool prompts) {

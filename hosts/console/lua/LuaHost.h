@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/console/Transcript.h"
 #include "hosts/console/lua/LuaSession.h"
 
 #include <lua.h>
@@ -19,6 +20,13 @@ public:
 
     /// Runs a script; gives the program's exit status, an error being written to standard error.
     int run(const std::string& file, const std::vector<std::string>& arguments);
+
+    /// Plays a transcript to its end: notes under each statement what is observed. `reached` is told the first line
+    /// of each statement that is about to run. False when an error ends the script; it is written to standard error.
+    bool play(Transcript& transcript, const std::string& file, const std::function<void(std::size_t line)>& reached);
+
+    /// Whether the lines are one or more whole statements of Lua, right or wrong.
+    bool isWhole(const std::string& lines);
 
     /// Reads and runs statements and expressions until the input ends. An error ends the statement only.
     /// Prompts are for people.

@@ -15,6 +15,63 @@ constexpr char Objects = 0;
 
 } // namespace
 
+/// Hears an event before any handler of the script does.
+class ScriptedControl::ObservedEvent final : public EventSink {
+public:
+    ObservedEvent(const ScriptedControl& host, const EventDescription& event) : host_(host), event_(event) {
+        connection_ = connect(host.object(), event.name, *this);
+    }
+    void Event(Long /*number*/, std::span<Variant> arguments) override {
+        std::string text;
+        for (std::size_t at = 0; at < arguments.size(); ++at)
+            text += (at > 0 ? ", " : "") + shownValue(arguments[at], event_.argument[at].type.enumeration);
+        host_.note(toUtf8(event_.name) + "(" + text + ")");
+    }
+
+private:
+    const ScriptedControl& host_;
+    const EventDescription& event_;
+    Connection connection_;
+};
+
+ScriptedControl::ScriptedControl(Ref<Object> object, Session& session)
+    : ControlHost(std::move(object)), session_(session) {
+    if (!session_.observer) return;
+    session_.observer->watchExtender(extenderObject());
+    for (const EventDescription& event : this->object().description().events)
+        observed_.push_back(std::make_unique<ObservedEvent>(*this, event));
+}
+
+ScriptedControl::~ScriptedControl() {
+    if (session_.observer) session_.observer->forget(object());
+}
+
+void ScriptedControl::PropertyChanged(StringView name) {
+    ControlHost::PropertyChanged(name);
+    note("PropertyChanged " + toUtf8(name));
+}
+
+void ScriptedControl::SizeChanged(Single width, Single height) {
+    ControlHost::SizeChanged(width, height);
+    note("size " + shownValue(width) + " x " + shownValue(height));
+}
+
+void ScriptedControl::Beep() {
+    ControlHost::Beep();
+    ++session_.beeps;
+    note("beep");
+}
+
+bool ScriptedControl::ShowPopup(Menu& root) {
+    note("pop-up " + toUtf8(root.name()));
+    return ControlHost::ShowPopup(root);
+}
+
+void ScriptedControl::ViewChanged() noexcept {
+    ControlHost::ViewChanged();
+    if (session_.observer) session_.observer->viewChanged(object());
+}
+
 void defineObjects(lua_State* L, std::span<const luaL_Reg> metamethods) {
     defineUserdata<LuaControl>(L, metamethods);
     lua_newtable(L);

@@ -11,6 +11,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace zilvo::console {
 
@@ -19,17 +20,25 @@ class HandlerSink;
 /// A control that a script hosts.
 class ScriptedControl final : public platform::ControlHost {
 public:
-    ScriptedControl(platform::Ref<platform::Object> object, Session& session)
-        : ControlHost(std::move(object)), session_(session) {}
+    ScriptedControl(platform::Ref<platform::Object> object, Session& session);
+    ~ScriptedControl() override;
 
 protected:
-    void Beep() override {
-        ControlHost::Beep();
-        ++session_.beeps;
-    }
+    void PropertyChanged(platform::StringView name) override;
+    void SizeChanged(platform::Single width, platform::Single height) override;
+    void Beep() override;
+    bool ShowPopup(platform::Menu& root) override;
+    void ViewChanged() noexcept override;
 
 private:
+    class ObservedEvent;
+
+    void note(const std::string& line) const {
+        if (session_.observer) session_.observer->note(object(), line);
+    }
+
     Session& session_;
+    std::vector<std::unique_ptr<ObservedEvent>> observed_;
 };
 
 /// An object of the component in a script; its user value is the table of its handlers.

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "hosts/console/Observer.h"
 #include "zilvo/platform/component/Components.h"
 
 #include <lua.h>
 
+#include <functional>
 #include <map>
 
 namespace zilvo::console {
@@ -20,6 +22,10 @@ public:
     /// How many of them have their names in the Lua state.
     std::size_t namedComponents = 0;
     std::size_t beeps = 0;
+    /// Writes down what happens while a transcript is played; else null.
+    Observer* observer = nullptr;
+    /// Told each line of the script itself that is about to run.
+    std::function<void(std::size_t line)> reached;
     /// The Lua thread whose call into the component is running: an event's handler runs on it.
     lua_State* current = nullptr;
     /// Whether an error of a handler is on its way through the component back to the call that led to the

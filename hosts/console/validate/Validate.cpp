@@ -1,5 +1,6 @@
 #include "hosts/console/validate/Validate.h"
 
+#include "hosts/console/ChildProcess.h"
 #include "hosts/console/Describe.h"
 #include "hosts/console/validate/Checks.h"
 #include "zilvo/platform/component/RegistrationStore.h"
@@ -11,11 +12,6 @@
 #include <iomanip>
 #include <iostream>
 #include <map>
-#include <poll.h>
-#include <signal.h>
-#include <sys/prctl.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace zilvo::console {
@@ -64,26 +60,13 @@ std::string oneLine(std::string_view text) {
     return line;
 }
 
-void writeAll(int pipe, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = write(pipe, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) _exit(EXIT_FAILURE); // nobody listens any more
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-}
-
-/// Runs the check and ends the process without unloading the component, which is a check of its own.
-[[noreturn]] void runHere(const NamedCheck& named, const Given& given, int pipe) {
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    constexpr rlimit noCoreFile{0, 0};
-    setrlimit(RLIMIT_CORE, &noCoreFile);
+/// Runs the check; the component is not unloaded, which is a check of its own.
+void runHere(const NamedCheck& named, const Given& given, int pipe) {
     dup2(STDERR_FILENO, STDOUT_FILENO); // what the component prints is no part of the report
     setenv(RegistrationStore::EnvironmentVariable, given.registrations.c_str(), 1);
 
-    Check check([pipe](Check::Word word, std::string_view text) {
-        writeAll(pipe, static_cast<char>(word) + oneLine(text) + '\n');
-    });
+    Check check(
+        [pipe](Check::Word word, std::string_view text) { say(pipe, static_cast<char>(word) + oneLine(text) + '\n'); });
     std::optional<LoadedComponent> component;
     try {
         component.emplace(given.component);
@@ -168,52 +151,23 @@ private:
     Outcome outcome_;
 };
 
-/// Listens until the check's final word, the end of its process or the deadline; false for the deadline.
-bool listen(Listener& listener, int pipe, Clock::time_point deadline) {
-    std::array<char, 4096> bytes{};
-    while (!listener.hasEnded()) {
-        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
-        pollfd ready{pipe, POLLIN, 0};
-        if (left.count() <= 0) return false;
-        if (poll(&ready, 1, static_cast<int>(left.count())) <= 0) continue;
-        const ssize_t count = read(pipe, bytes.data(), bytes.size());
-        if (count <= 0) return true;
-        listener.hear({bytes.data(), static_cast<std::size_t>(count)});
-    }
-    return true;
-}
-
-std::string howItEnded(int status) {
-    if (WIFSIGNALED(status))
-        return "ended by signal " + std::to_string(WTERMSIG(status)) + " (" + strsignal(WTERMSIG(status)) + ")";
-    return "ended the process with exit status " + std::to_string(WEXITSTATUS(status));
-}
-
-[[noreturn]] void failToStart() {
-    throw Failure(Status::Failed, std::string("a check cannot be started: ") + std::strerror(errno));
-}
-
 Outcome runInItsOwnProcess(const NamedCheck& named, const Given& given) {
-    std::array<int, 2> pipe{};
-    if (::pipe(pipe.data()) != 0) failToStart();
     const auto start = Clock::now();
-    const pid_t child = fork();
-    if (child < 0) failToStart();
-    if (child == 0) {
-        close(pipe[0]);
-        runHere(named, given, pipe[1]);
-    }
-    close(pipe[1]);
     Listener listener;
-    const bool inTime = listen(listener, pipe[0], start + given.limit);
-    kill(child, SIGKILL); // no harm to one that has ended
-    int status = 0;
-    waitpid(child, &status, 0);
-    close(pipe[0]);
-
+    const Ending ending = runChild(
+        [&](int pipe) {
+            runHere(named, given, pipe);
+            return EXIT_SUCCESS;
+        },
+        [&](std::string_view bytes) {
+            listener.hear(bytes);
+            return !listener.hasEnded();
+        },
+        {given.limit});
     Outcome outcome =
-        !inTime ? listener.stopped(Result::Failed, "did not finish in " + std::to_string(given.limit.count()) + " s")
-        : !listener.hasEnded() ? listener.stopped(Result::Crashed, howItEnded(status))
+        !ending.inTime
+            ? listener.stopped(Result::Failed, "did not finish in " + std::to_string(given.limit.count()) + " s")
+        : !listener.hasEnded() ? listener.stopped(Result::Crashed, howItEnded(ending.status))
                                : listener.finished();
     outcome.took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
     return outcome;
@@ -224,7 +178,8 @@ class TemporaryFolder {
 public:
     TemporaryFolder() {
         auto name = (std::filesystem::temp_directory_path() / "zilvo-validate-XXXXXX").string();
-        if (!mkdtemp(name.data())) failToStart();
+        if (!mkdtemp(name.data()))
+            throw Failure(Status::Failed, "no temporary folder can be made: " + std::string(std::strerror(errno)));
         path_ = name;
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -56,7 +56,10 @@ public:
     std::size_t repaints() const noexcept { return repaints_; }
 
 protected:
+    void PropertyChanged(StringView name) override { changes_.emplace_back(name); }
+    void SizeChanged(Single width, Single height) override { extender_.record(width, height); }
     void Beep() override { ++beeps_; }
+    bool ShowPopup(Menu& /*root*/) override { return false; }
     void ViewChanged() noexcept override { ++repaints_; }
 
 private:
@@ -79,8 +82,6 @@ private:
 
     Ambient& ambient() override { return ambient_; }
     Extender& extender() override { return extender_; }
-    void PropertyChanged(StringView name) override { changes_.emplace_back(name); }
-    void SizeChanged(Single width, Single height) override { extender_.record(width, height); }
 
     Ref<Object> object_;
     HostedControl& control_;

@@ -79,10 +79,12 @@ public:
     virtual void ViewChanged() noexcept {}
     virtual void Beep() = 0;
 
-    /// For a control that another control embeds: the child widget that it is there, and where its pop-up menus go.
-    /// A host's own controls have neither.
+    /// A menu is to pop up at the pointer. A host that shows it in a way of its own gives true and hands the user's
+    /// choice in as input; else the control draws it and takes the choice itself.
+    virtual bool ShowPopup(Menu& /*root*/) { return false; }
+
+    /// For a control that another control embeds: the child widget that it is there. A host's own controls have none.
     virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
-    virtual void showPopup(Menu& /*root*/) {}
 
 protected:
     ~ControlSite() = default;
