@@ -82,10 +82,6 @@ void say(int pipe, std::string_view bytes) {
     }
 }
 
-bool hasExited(const Ending& ending) {
-    return WIFEXITED(ending.status);
-}
-
 std::string howItEnded(int status) {
     if (WIFSIGNALED(status))
         return "ended by signal " + std::to_string(WTERMSIG(status)) + " (" + strsignal(WTERMSIG(status)) + ")";

@@ -28,8 +28,6 @@ Ending runChild(const std::function<int(int pipe)>& body, const std::function<bo
 /// For the child's side: all of it, or the end of the process when nobody listens any more.
 void say(int pipe, std::string_view bytes);
 
-/// Whether it ended of itself, not by a signal.
-bool hasExited(const Ending& ending);
 /// "ended by signal 11 (Segmentation fault)"
 std::string howItEnded(int status);
 

@@ -18,6 +18,9 @@ std::string counted(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " statement" : " statements");
 }
 
+/// What a child says last, unless something else ended its process.
+constexpr const char* End = "\n";
+
 /// The child's side: gives its exit status.
 int play(const std::string& file, const Playing& playing, int pipe) {
     Components components;
@@ -40,12 +43,14 @@ int play(const std::string& file, const Playing& playing, int pipe) {
 }
 
 int playOrComplain(const std::string& file, const Playing& playing, int pipe) {
+    int status = EXIT_FAILURE;
     try {
-        return play(file, playing, pipe);
+        status = play(file, playing, pipe);
     } catch (const std::exception& exception) {
         std::cerr << "zilvo: " << exception.what() << '\n';
-        return EXIT_FAILURE;
     }
+    say(pipe, End);
+    return status;
 }
 
 /// The last whole line of what a child says is the statement that it runs.
@@ -53,16 +58,20 @@ class LastLine {
 public:
     void hear(std::string_view bytes) {
         for (const char byte : bytes)
-            if (byte == '\n')
+            if (byte == '\n') {
+                heard_ = true;
                 whole_ = std::exchange(begun_, {});
-            else
+            } else {
                 begun_ += byte;
+            }
     }
+    bool isEnd() const noexcept { return heard_ && whole_.empty(); }
     std::string at(const std::string& file) const { return whole_.empty() ? file : file + ":" + whole_; }
 
 private:
     std::string begun_;
     std::string whole_;
+    bool heard_ = false;
 };
 
 } // namespace
@@ -80,9 +89,9 @@ bool playTranscripts(const Playing& playing) {
         if (!ending.inTime)
             std::cerr << "zilvo: " << line.at(file) << ": the statement did not end in " << playing.limit.count()
                       << " s\n";
-        else if (!hasExited(ending))
+        else if (!line.isEnd())
             std::cerr << "zilvo: " << line.at(file) << ": the statement " << howItEnded(ending.status) << '\n';
-        good = good && ending.inTime && ending.status == 0;
+        good = good && ending.inTime && line.isEnd() && ending.status == 0;
     }
     return good;
 }
