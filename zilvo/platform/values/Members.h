@@ -164,20 +164,24 @@ private:
 };
 
 /// An argument passed by reference: the very variable when the caller passed a reference to one of this kind,
-/// else a converted copy whose final value goes back to the caller.
+/// else a converted copy, whose final value goes back to the caller when the member changed it.
 template <class T>
 requires(!std::is_const_v<T>) class Argument<T&> {
 public:
     explicit Argument(Variant& source)
-        : source_(source), variable_(source.findVariable<T>()), copy_(variable_ ? T{} : convert<T>(source)) {}
+        : source_(source),
+          variable_(source.findVariable<T>()),
+          given_(variable_ ? T{} : convert<T>(source)),
+          copy_(given_) {}
     T& pass() noexcept { return variable_ ? *variable_ : copy_; }
     void giveBack() {
-        if (!variable_) source_.assign(toVariant(copy_));
+        if (copy_ != given_) source_.assign(toVariant(copy_));
     }
 
 private:
     Variant& source_;
     T* variable_;
+    T given_;
     T copy_;
 };
 
