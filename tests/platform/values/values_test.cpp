@@ -35,8 +35,8 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
         Integer expected;
     };
     const Case cases[] = {
-        {2.5F, 2},  {3.5F, 4},        {-2.5F, -2},   {-0.5F, 0},     {32767.4F, 32767}, {Long{-32768}, -32768},
-        {true, -1}, {u" +12.5 ", 12}, {u"1e2", 100}, {Variant(), 0}, {u"-7", -7},       {Colour{5}, 5}};
+        {2.5F, 2},  {3.5F, 4},        {-2.5F, -2},   {-0.5F, 0},  {32767.4F, 32767}, {Long{-32768}, -32768},
+        {true, -1}, {u" +12.5 ", 12}, {u"1e2", 100}, {u"-7", -7}, {Colour{5}, 5}};
     for (const Case& tried : cases)
         EXPECT_EQ(toInteger(tried.value), tried.expected) << describe(tried.value);
 
@@ -50,9 +50,10 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
 }
 
 TEST(Conversions, WhatHoldsNoNumberIsATypeMismatch) {
-    for (const Variant& value : {Variant(u""), Variant(u"12x"), Variant(u"0x10"), Variant(u"inf"), Variant(u"nan"),
-                                 Variant(u"1 2"), Variant(u"+-3"), Variant(u"--3"), Variant(u"."), Variant(u"\u0663"),
-                                 Variant(Missing()), Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
+    for (const Variant& value :
+         {Variant(u""), Variant(u"12x"), Variant(u"0x10"), Variant(u"inf"), Variant(u"nan"), Variant(u"1 2"),
+          Variant(u"+-3"), Variant(u"--3"), Variant(u"."), Variant(u"\u0663"), Variant(), Variant(Missing()),
+          Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
         EXPECT_EQ(statusOf<Integer>(value), Status::TypeMismatch) << describe(value);
         EXPECT_EQ(statusOf<bool>(value), Status::TypeMismatch) << describe(value);
     }
@@ -65,7 +66,7 @@ TEST(Conversions, BooleansReadAnyNonZeroAndTheirWords) {
     for (const Variant& value :
          {Variant(Integer{5}), Variant(u"TRUE"), Variant(u"-1"), Variant(0.25F), Variant(Boolean{2})})
         EXPECT_TRUE(toBoolean(value)) << describe(value);
-    for (const Variant& value : {Variant(Long{0}), Variant(u"false"), Variant(u"0.0"), Variant()})
+    for (const Variant& value : {Variant(Long{0}), Variant(u"false"), Variant(u"0.0")})
         EXPECT_FALSE(toBoolean(value)) << describe(value);
 }
 

@@ -50,8 +50,6 @@ std::optional<double> parseNumber(StringView text) {
 
 double numberOf(const Variant& value, StringView what, Kind wanted) {
     switch (value.kind()) {
-    case Kind::Empty:
-        return 0;
     case Kind::Boolean:
         return isTrue(*value.find<Boolean>()) ? -1 : 0;
     case Kind::Integer:
@@ -65,6 +63,7 @@ double numberOf(const Variant& value, StringView what, Kind wanted) {
     case Kind::String:
         if (const auto number = parseNumber(*value.find<String>())) return *number;
         break;
+    case Kind::Empty:
     case Kind::Missing:
     case Kind::Font:
     case Kind::BooleanArray:
