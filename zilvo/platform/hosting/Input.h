@@ -42,7 +42,7 @@ struct KeyTyped {
 
 enum class Key : std::uint8_t { Character, Tab, Enter, Escape, Space, Up, Down, Left, Right };
 
-/// A key that goes down. Enter, Escape, Space and characters without Alt go on as typed characters.
+/// A key that goes down. Enter, Escape, Space and characters go on as typed characters, but not with Ctrl or Alt.
 struct KeyDown {
     Key key;
     char16_t character = 0; ///< for Key::Character

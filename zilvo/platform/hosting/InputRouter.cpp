@@ -122,13 +122,13 @@ bool InputRouter::on(const input::KeyTyped& event) {
         return true;
     }
     Widget* focused = focus();
+    if (event.keyAscii == Enter && dynamic_cast<CommandButton*>(focused)) return click(focused);
     const auto surfaces = surfacesFrom(root_, focused);
     Integer code = event.keyAscii;
     for (auto outer = surfaces.rbegin(); outer != surfaces.rend(); ++outer)
         if ((*outer)->surfaceKeyPress(code)) return true;
 
     if (code == Space) return click(focused);
-    if (code == Enter && dynamic_cast<CommandButton*>(focused)) return click(focused);
     if (code != Enter && code != Escape) return false;
     for (const Surface* surface : surfaces)
         if (Widget* button = code == Enter ? surface->defaultButton : surface->cancelButton) return click(button);
@@ -138,6 +138,7 @@ bool InputRouter::on(const input::KeyTyped& event) {
 bool InputRouter::on(const input::KeyDown& event) {
     using input::Key;
     const bool alt = (event.shift & input::AltMask) != 0;
+    const bool types = (event.shift & (input::AltMask | input::CtrlMask)) == 0;
     if (popup_.isOpen()) {
         choose(event.key == Key::Character ? popup_.accessKey(event.character) : popup_.key(event.key));
         return true;
@@ -147,13 +148,14 @@ bool InputRouter::on(const input::KeyDown& event) {
         advanceFocus((event.shift & input::ShiftMask) == 0);
         return focus_ != nullptr;
     case Key::Enter:
-        return on(input::KeyTyped{Enter});
+        return types && on(input::KeyTyped{Enter});
     case Key::Escape:
-        return on(input::KeyTyped{Escape});
+        return types && on(input::KeyTyped{Escape});
     case Key::Space:
-        return on(input::KeyTyped{Space});
+        return types && on(input::KeyTyped{Space});
     case Key::Character:
-        return alt ? accessKey(event.character) : on(input::KeyTyped{static_cast<Integer>(event.character)});
+        if (types) return on(input::KeyTyped{static_cast<Integer>(event.character)});
+        return alt && accessKey(event.character);
     default:
         return arrow(event.key);
     }
