@@ -24,8 +24,7 @@ static_assert(idsAndNamesAreUnique(extenderMembers));
 } // namespace
 
 FontRef StandardAmbient::get_Font() {
-    if (!font_) font_ = StdFont::make({});
-    return font_;
+    return font_ ? StdFont::copyOf(font_) : StdFont::make({});
 }
 
 const ClassDescription& StandardAmbient::description() const noexcept {

@@ -27,6 +27,7 @@ public:
     void put_BackColor(Colour newBackColor) { backColor_ = newBackColor; }
     Colour get_ForeColor() override { return foreColor_; }
     void put_ForeColor(Colour newForeColor) { foreColor_ = newForeColor; }
+    /// A copy each time, so that no control changes another's.
     FontRef get_Font() override;
     void put_Font(FontRef newFont) { font_ = std::move(newFont); }
 
@@ -36,7 +37,7 @@ private:
     bool userMode_ = true;
     Colour backColor_ = colours::ButtonFace;
     Colour foreColor_ = colours::WindowText;
-    FontRef font_; ///< MS Sans Serif 8.25, made on first use
+    FontRef font_; ///< null for MS Sans Serif 8.25
 };
 
 /// The object with which the host wraps the control: its place on the window and whether it is shown. Twips.

@@ -1,22 +1,32 @@
 #include "zilvo/platform/hosting/PropertyBag.h"
 
+#include "zilvo/platform/values/StdFont.h"
 #include "zilvo/platform/values/Text.h"
 
 #include <algorithm>
 
 namespace zilvo::platform {
 
+namespace {
+
+Variant ownCopy(const Variant& value) {
+    const FontRef* font = value.find<FontRef>();
+    return font ? Variant(StdFont::copyOf(*font)) : value.value();
+}
+
+} // namespace
+
 Variant PropertyBag::ReadProperty(StringView name, const Variant& defaultValue) const {
-    if (auto stored = read(name)) return *std::move(stored);
-    return defaultValue;
+    const auto stored = read(name);
+    return ownCopy(stored ? *stored : defaultValue);
 }
 
 void PropertyBag::WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) {
-    write(name, value, equalByValue(value, defaultValue));
+    write(name, ownCopy(value), equalByValue(value, defaultValue));
 }
 
 void PropertyBag::WriteProperty(StringView name, const Variant& value) {
-    write(name, value, false);
+    write(name, ownCopy(value), false);
 }
 
 void MemoryPropertyBag::set(StringView name, Variant value) {
@@ -36,7 +46,7 @@ std::optional<Variant> MemoryPropertyBag::read(StringView name) const {
 
 void MemoryPropertyBag::write(StringView name, const Variant& value, bool equalsDefault) {
     if (!equalsDefault || defaults_ == Defaults::Kept) {
-        set(name, value.value());
+        set(name, value);
     } else {
         std::erase_if(settings_, [&](const Setting& setting) { return sameName(setting.name, name); });
     }

@@ -15,7 +15,8 @@ public:
     PropertyBag& operator=(const PropertyBag&) = delete;
     virtual ~PropertyBag() = default;
 
-    /// The value stored under the name, or the default when there is none.
+    /// The value stored under the name, or the default when there is none. A font is a copy either way, and so is one
+    /// that is written: what a control does with it changes no saved setting.
     Variant ReadProperty(StringView name, const Variant& defaultValue) const;
     /// The same, converted; the message of a failing conversion names the key.
     template <class T>

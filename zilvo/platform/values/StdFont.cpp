@@ -30,6 +30,14 @@ FontRef StdFont::make(const FontDesign& design) {
     return std::make_shared<StdFont>(design);
 }
 
+FontRef StdFont::copyOf(const FontRef& font) {
+    if (!font) return nullptr;
+    auto copy =
+        make({font->name_.c_str(), font->size_, font->weight_, font->italic_, font->underline_, font->strikethrough_});
+    copy->charset_ = font->charset_;
+    return copy;
+}
+
 StdFont::StdFont(const FontDesign& design)
     : name_(design.Name),
       size_(design.Size),

@@ -40,6 +40,8 @@ class StdFont final : public Described {
 public:
     /// Fonts outlive the component that asked for them, so they are made here and copy the design.
     static FontRef make(const FontDesign& design);
+    /// Another object with the same members; nothing for nothing.
+    static FontRef copyOf(const FontRef& font);
 
     explicit StdFont(const FontDesign& design);
     StdFont(const StdFont&) = delete;
