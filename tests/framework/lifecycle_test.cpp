@@ -18,6 +18,7 @@ public:
     UserControl& own() { return userControl; }
     std::string log;
     std::string failIn;
+    bool reads = false;
     Event<> Nothing{*this};
 
 private:
@@ -27,7 +28,10 @@ private:
     }
     void Initialize() override { note("Initialize"); }
     void InitProperties() override { note("InitProperties"); }
-    void ReadProperties(const PropertyBag& /*PropBag*/) override { note("ReadProperties"); }
+    void ReadProperties(const PropertyBag& PropBag) override {
+        if (reads) PropBag.ReadProperty(u"First", Integer{1});
+        note("ReadProperties");
+    }
     void WriteProperties(PropertyBag& PropBag) override {
         PropBag.WriteProperty(u"First", Integer{1});
         note("WriteProperties");
@@ -96,6 +100,42 @@ TEST(Lifecycle, IllegalAndRepeatedTransitionsChangeNothing) {
     EXPECT_EQ(hosted.SetSize(1, 1), Status::UnexpectedCall) << "closed with its host";
     EXPECT_EQ(hosted.Input(input::KeyTyped{65}, nullptr), Status::UnexpectedCall);
     EXPECT_EQ(control->log, "Initialize InitProperties WriteProperties Resize ");
+}
+
+TEST(Lifecycle, IsLiveOnlyWhenItIsLoadedAndSized) {
+    struct Bag final : PropertyBag {
+        std::optional<Variant> read(StringView) const override {
+            MemoryPropertyBag saved;
+            for (const Status status : {loaded->SetSize(5, 5), loaded->AmbientPropertyChanged(u"Font"),
+                                        loaded->Save(saved), loaded->Load(saved)})
+                EXPECT_EQ(status, Status::UnexpectedCall);
+            return std::nullopt;
+        }
+        void write(StringView, const Variant&, bool) override {}
+        HostedControl* loaded = nullptr;
+    };
+    const auto control = makeLogger();
+    const ControlHost host(control);
+    HostedControl& hosted = *control;
+    Bag bag;
+    bag.loaded = &hosted;
+    control->reads = true;
+    EXPECT_EQ(hosted.Load(bag), Status::Ok);
+    EXPECT_EQ(hosted.SetSize(-1, 5), Status::InvalidPropertyValue);
+    EXPECT_EQ(hosted.AmbientPropertyChanged(u"Font"), Status::UnexpectedCall) << "a refused size is none";
+    EXPECT_EQ(hosted.SetSize(1500, 5), Status::Ok);
+    EXPECT_EQ(hosted.SetSize(1500, std::numeric_limits<Single>::infinity()), Status::InvalidPropertyValue);
+    EXPECT_EQ(control->log, "Initialize ReadProperties Resize ");
+    EXPECT_EQ(control->own().get_Height(), 5);
+}
+
+TEST(Lifecycle, ASizeThatTheControlSetsIsToldAndRunsResizeEachTime) {
+    const auto control = makeLogger();
+    ControlHost host(control);
+    host.open(nullptr, 3000, 300); // Resize asks for 1500
+    EXPECT_EQ(control->log, "Initialize InitProperties Resize Resize ");
+    control->own().put_Height(300);
+    EXPECT_EQ(control->log, "Initialize InitProperties Resize Resize Resize ") << "also when it is what it was";
 }
 
 TEST(Lifecycle, AFailingStepKeepsWhatWasDoneAndTheOrderGoesOn) {

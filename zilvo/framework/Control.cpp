@@ -14,10 +14,32 @@ Status Control::edge(const char* call, ErrorInfo* error, const Body& body) noexc
 
 void Control::require(bool legal) const {
     if (legal) return;
-    constexpr std::array stages = {"has no site", "is not yet new or loaded", "has no size yet", "is live",
+    constexpr std::array stages = {"has no site",     "is not yet new or loaded", "is being loaded",
+                                   "has no size yet", "gets its first size",      "is live",
                                    "is closed"};
     throw Failure(Status::UnexpectedCall,
                   std::string("the call is not legal: the control ") + stages[static_cast<std::size_t>(stage_)]);
+}
+
+/// A step of the order, which has taken place even when its handler fails; a handler may close the control.
+template <class Body>
+void Control::during(Stage on, Stage after, const Body& body) {
+    class Step {
+    public:
+        Step(Stage& stage, Stage on, Stage after) noexcept : stage_(stage), on_(on), after_(after) { stage_ = on; }
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+        ~Step() {
+            if (stage_ == on_) stage_ = after_;
+        }
+
+    private:
+        Stage& stage_;
+        Stage on_;
+        Stage after_;
+    };
+    const Step step(stage_, on, after);
+    body();
 }
 
 Status Control::SetSite(ControlSite& site, ErrorInfo* error) noexcept {
@@ -32,30 +54,31 @@ Status Control::SetSite(ControlSite& site, ErrorInfo* error) noexcept {
 Status Control::InitNew(ErrorInfo* error) noexcept {
     return edge("InitProperties", error, [&] {
         require(stage_ == Stage::Sited);
-        stage_ = Stage::Placed;
-        InitProperties();
+        during(Stage::Loading, Stage::Placed, [&] { InitProperties(); });
     });
 }
 
 Status Control::Load(const PropertyBag& settings, ErrorInfo* error) noexcept {
     return edge("ReadProperties", error, [&] {
         require(stage_ == Stage::Sited);
-        stage_ = Stage::Placed;
-        ReadProperties(settings);
+        during(Stage::Loading, Stage::Placed, [&] { ReadProperties(settings); });
     });
 }
 
 Status Control::SetSize(Single width, Single height, ErrorInfo* error) noexcept {
     return edge("Resize", error, [&] {
         require(stage_ == Stage::Placed || stage_ == Stage::Live);
-        stage_ = Stage::Live;
-        userControl.setSize(width, height);
+        UserControl::checkSize(width, height);
+        if (stage_ == Stage::Live)
+            userControl.setSize(width, height);
+        else
+            during(Stage::Sizing, Stage::Live, [&] { userControl.setSize(width, height); });
     });
 }
 
 Status Control::Save(PropertyBag& settings, ErrorInfo* error) noexcept {
     return edge("WriteProperties", error, [&] {
-        require(stage_ == Stage::Placed || stage_ == Stage::Live);
+        require(stage_ == Stage::Placed || stage_ == Stage::Sizing || stage_ == Stage::Live);
         WriteProperties(settings);
     });
 }

@@ -51,11 +51,13 @@ private:
     template <class T>
     friend Ref<T> createObject(ComponentModule& module);
 
-    enum class Stage : std::uint8_t { Created, Sited, Placed, Live, Closed };
+    enum class Stage : std::uint8_t { Created, Sited, Loading, Placed, Sizing, Live, Closed };
 
     template <class Body>
     Status edge(const char* call, ErrorInfo* error, const Body& body) noexcept;
     void require(bool legal) const;
+    template <class Body>
+    void during(Stage on, Stage after, const Body& body);
 
     InputRouter router_{userControl};
     Stage stage_ = Stage::Created;

@@ -18,10 +18,10 @@ constexpr std::array members = {
 };
 static_assert(idsAndNamesAreUnique(members));
 
-void checkSize(const char* member, Single twips) {
+void checkLength(const char* what, Single twips) {
     if (!(twips >= 0) || !std::isfinite(twips))
         throw Failure(Status::InvalidPropertyValue,
-                      std::string("UserControl.") + member + " cannot be " + platform::describe(Variant(twips)));
+                      std::string(what) + " of " + toUtf8(toString(twips)) + " twips is not possible");
 }
 
 } // namespace
@@ -79,17 +79,44 @@ const FontRef& UserControl::get_Font() {
 }
 
 void UserControl::put_Width(Single newWidth) {
-    if (newWidth != width_) setSize(newWidth, height_);
+    setOwnSize(newWidth, height_);
 }
 
 void UserControl::put_Height(Single newHeight) {
-    if (newHeight != height_) setSize(width_, newHeight);
+    setOwnSize(width_, newHeight);
+}
+
+void UserControl::setOwnSize(Single width, Single height) {
+    if (resizing_ && width == width_ && height == height_) return; // the handler comes to rest
+    checkSize(width, height);
+    take(width, height);
+    resize();
 }
 
 void UserControl::setSize(Single width, Single height) {
-    checkSize("Width", width);
-    checkSize("Height", height);
+    checkSize(width, height);
     if (width != width_ || height != height_) take(width, height);
+    resize();
+}
+
+void UserControl::checkSize(Single width, Single height) {
+    checkLength("a width", width);
+    checkLength("a height", height);
+}
+
+void UserControl::resize() {
+    class Resizing {
+    public:
+        explicit Resizing(bool& resizing) noexcept : resizing_(resizing), before_(std::exchange(resizing, true)) {}
+        Resizing(const Resizing&) = delete;
+        Resizing& operator=(const Resizing&) = delete;
+        ~Resizing() { resizing_ = before_; }
+
+    private:
+        bool& resizing_;
+        bool before_;
+    };
+    const Resizing resizing(resizing_);
     owner_.Resize();
 }
 

@@ -29,8 +29,9 @@ public:
     void put_ForeColor(Colour newForeColor);
     /// The control's default font, which is the ambient font of what it embeds.
     const FontRef& get_Font();
-    /// Twips. Another size than before runs the control's Resize handler. A size that is negative or no number fails
-    /// with InvalidPropertyValue.
+    /// Twips. Setting one tells the host and runs the control's Resize handler, also when the size is what it was; but
+    /// not from inside that handler, where only another size does. A size that is negative or no number fails with
+    /// InvalidPropertyValue.
     Single get_Width() const noexcept { return width_; }
     void put_Width(Single newWidth);
     Single get_Height() const noexcept { return height_; }
@@ -61,8 +62,12 @@ public:
 
     // For Control
     void setSite(ControlSite* site) noexcept { site_ = site; }
-    /// Twips; always runs the Resize handler.
+    /// The host's size, in twips; always runs the Resize handler.
     void setSize(Single width, Single height);
+    /// Fails with InvalidPropertyValue for what is no size.
+    static void checkSize(Single width, Single height);
+    /// Runs the Resize handler.
+    void resize();
     /// An ambient property of the controls embedded here has changed.
     void tellEmbedded(StringView ambientName);
 
@@ -70,6 +75,7 @@ private:
     class NullSite;
 
     ControlSite& site();
+    void setOwnSize(Single width, Single height);
     void take(Single width, Single height);
 
     Control& owner_;
@@ -82,6 +88,7 @@ private:
     Colour backColor_;
     Colour foreColor_;
     platform::ScaleMode scaleMode_;
+    bool resizing_ = false;
 };
 
 } // namespace zilvo

@@ -46,7 +46,6 @@ void ControlHost::open(const PropertyBag* settings, std::optional<Single> width,
     if (gone) return throwUnlessOk(status, error); // an event while loading, and its handler closed the host
     gone_ = nullptr;
     throwUnlessOk(status, error);
-    live_ = true;
     const Rectangle area = control_.surface().area();
     resize(width.value_or(area.width), height.value_or(area.height));
 }
@@ -65,6 +64,7 @@ void ControlHost::save(PropertyBag& settings) {
 void ControlHost::resize(Single width, Single height) {
     ErrorInfo error;
     throwUnlessOk(control_.SetSize(width, height, &error), error);
+    live_ = true;
 }
 
 bool ControlHost::input(const InputEvent& event) {

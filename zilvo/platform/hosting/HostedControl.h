@@ -13,10 +13,11 @@ namespace zilvo::platform {
 ///
 ///   created -> SetSite -> InitNew or Load, exactly one, once -> SetSize -> live -> Close
 ///
-/// A call that is not legal in the state gives UnexpectedCall and changes nothing. A failing InitNew, Load or SetSize
-/// has still taken place: what its handler did before the failing step stays, and the next call of the order is
-/// legal. Properties, methods and events (Object) can be used in every state; before SetSite and after Close a null
-/// site answers: default ambient properties, no notification goes anywhere.
+/// A call that is not legal in the state gives UnexpectedCall and changes nothing; so does a SetSize with what is no
+/// size, which gives InvalidPropertyValue. While one of these calls runs, none of the others is legal. A failing
+/// InitNew, Load or first SetSize has still taken place: what its handler did before the failing step stays, and the
+/// next call of the order is legal. Properties, methods and events (Object) can be used in every state; before SetSite
+/// and after Close a null site answers: default ambient properties, no notification goes anywhere.
 ///
 /// Every call holds the control alive until it returns, so that a handler may release the last reference.
 class HostedControl {
