@@ -32,11 +32,10 @@ bool isSet(Integer descriptor, Long number) noexcept {
     return number == SignBit ? descriptor < 0 : (descriptor & maskOf(number)) != 0;
 }
 
-Long absolute(SeatSpreadPossibilities bit, StringView function) {
+Long absolute(SeatSpreadPossibilities bit) {
     const auto number = static_cast<Long>(bit);
     if (number == std::numeric_limits<Long>::min())
-        throw Failure(Status::Overflow,
-                      toUtf8(function) + ": WhichBit " + std::to_string(number) + " has no absolute value");
+        throw Failure(Status::Overflow, "WhichBit " + std::to_string(number) + " has no absolute value");
     return number < 0 ? -number : number;
 }
 
@@ -59,14 +58,14 @@ bool ZilvoButtonGoodies::SeatBitIsSet(Integer& SeatDescriptor, SeatSpreadPossibi
 }
 
 SeatSpreadPossibilities ZilvoButtonGoodies::SeatBitReset(Integer& SeatDescriptor, SeatSpreadPossibilities& WhichBit) {
-    const Long number = absolute(WhichBit, u"SeatBitReset");
+    const Long number = absolute(WhichBit);
     if (number > SignBit) return asResult(-Long{SeatDescriptor});
     if (number == SignBit) return asResult(SeatDescriptor & WithoutSign);
     return asResult(SeatDescriptor & ~maskOf(static_cast<Long>(WhichBit)));
 }
 
 SeatSpreadPossibilities ZilvoButtonGoodies::SeatBitSet(Integer& SeatDescriptor, SeatSpreadPossibilities& WhichBit) {
-    const Long number = absolute(WhichBit, u"SeatBitSet");
+    const Long number = absolute(WhichBit);
     if (number > SignBit) return asResult(-Long{SeatDescriptor});
     if (number == SignBit) return asResult(SeatDescriptor | SignMask);
     return asResult(SeatDescriptor | maskOf(static_cast<Long>(WhichBit)));

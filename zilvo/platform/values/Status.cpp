@@ -64,7 +64,8 @@ namespace {
 void leaveMessage(ErrorInfo* error, const std::string& context, const char* message) noexcept {
     if (!error) return;
     try {
-        error->message = context.empty() ? message : context + ": " + message;
+        const bool isNamed = std::string_view(message).starts_with(context);
+        error->message = isNamed ? message : context + ": " + message;
     } catch (const std::bad_alloc&) {
         error->message.clear();
     }
