@@ -53,9 +53,7 @@ SpinCounter::SpinCounter(ComponentModule& module)
 void SpinCounter::InitProperties() {
     put_MaximumLimit(LargestLimit);
     storedControlHandedness = static_cast<Long>(SpinCounterPossibilities::RighHandSpinCounter);
-    referenceHeight = DefaultHeight;
     UseTheAmbientColors();
-    referenceHeight = roundToInteger(userControl.get_Height());
 }
 
 void SpinCounter::ReadProperties(const PropertyBag& PropBag) {
@@ -82,6 +80,7 @@ void SpinCounter::Resize() {
     userControl.put_Width(FixedWidth);
     labelCardsInStack.put_Height(userControl.get_ScaleHeight());
     SpinButton.put_Height(userControl.get_ScaleHeight());
+    PlaceTheLowerChild();
 }
 
 void SpinCounter::AmbientChanged(StringView /*PropertyName*/) {
@@ -151,9 +150,8 @@ void SpinCounter::put_NumberWrap(bool NumberWrapNewValue) {
 }
 
 void SpinCounter::ResetSizeToDefault() {
-    referenceHeight = DefaultHeight;
     userControl.put_Height(DefaultHeight);
-    Resize();
+    userControl.resize();
 }
 
 bool SpinCounter::get_UseDefaultSize() {
@@ -196,8 +194,7 @@ void SpinCounter::ShowTheCounterValue() {
 }
 
 void SpinCounter::ArrangeTheSpinCounter() {
-    const Integer innerHeight = roundToInteger(userControl.get_ScaleHeight());
-    const auto half = static_cast<Integer>(innerHeight / 2);
+    lowerChild = nullptr;
     switch (get_ControlHandedness()) {
     case SpinCounterPossibilities::LeftHandSpinCounter:
         labelCardsInStack.put_Left(LabelBesideSpin);
@@ -216,9 +213,10 @@ void SpinCounter::ArrangeTheSpinCounter() {
     case SpinCounterPossibilities::TopMountSpinCounter:
         labelCardsInStack.put_Left(0);
         labelCardsInStack.put_Top(0);
-        labelCardsInStack.put_Height(half);
+        labelCardsInStack.put_Height(halfTheInnerHeight());
         SpinButton.put_Left(0);
-        SpinButton.put_Top(half);
+        lowerChild = &SpinButton;
+        PlaceTheLowerChild();
         SpinButton.put_Width(labelCardsInStack.get_Width());
         break;
     case SpinCounterPossibilities::BottomMountSpinCounter:
@@ -226,9 +224,22 @@ void SpinCounter::ArrangeTheSpinCounter() {
         SpinButton.put_Top(0);
         SpinButton.put_Width(labelCardsInStack.get_Width());
         labelCardsInStack.put_Left(0);
-        labelCardsInStack.put_Top(half);
+        lowerChild = &labelCardsInStack;
+        PlaceTheLowerChild();
         break;
     }
+}
+
+/// Both children take the full inner height at every resize; the lower one covers the other's lower half.
+void SpinCounter::PlaceTheLowerChild() {
+    if (!lowerChild) return;
+    lowerChild->put_Top(halfTheInnerHeight());
+    lowerChild->bringToFront();
+}
+
+/// In whole pixels.
+Single SpinCounter::halfTheInnerHeight() const {
+    return static_cast<Single>(toLong(userControl.get_ScaleHeight()) / 2);
 }
 
 void SpinCounter::UseTheAmbientColors() {

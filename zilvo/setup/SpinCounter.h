@@ -10,7 +10,7 @@ namespace zilvo {
 
 /// The player sees a whole number in parentheses, "(007)", beside a spin button that steps it.
 /// The host reads, sets and bounds the count, chooses the mounting, and gets CounterValueHasChanged after every
-/// accepted set and every spin. All but NumberWrap is saved. The width is fixed.
+/// accepted set and every spin. All but NumberWrap and UseDefaultSize is saved. The width is fixed.
 class SpinCounter final : public Control {
 public:
     static const ObjectDescription Description;
@@ -64,6 +64,8 @@ private:
     void ReportTheNewCounterValue();
     void ShowTheCounterValue();
     void ArrangeTheSpinCounter();
+    void PlaceTheLowerChild();
+    Single halfTheInnerHeight() const;
     void UseTheAmbientColors();
 
     std::optional<CounterKeeper> theCounter; ///< made on first use
@@ -71,13 +73,13 @@ private:
     bool storedAllowNegNumbers = false;
     bool storedNumberWrap = false;
     Long storedControlHandedness = 0;
-    Integer referenceHeight = 0; ///< twips
+    Widget* lowerChild = nullptr; ///< the one that is mounted under the other; null while they are side by side
 
     // clang-format off
     Label labelCardsInStack{userControl, {
         .Name = u"labelCardsInStack", .Left = 0, .Top = 0, .Width = 975, .Height = 360, .Caption = u"(###)",
         .Align = Alignment::Centre, .Sunken = true, .BackColor = colours::White,
-        .Font = {.Name = u"Comic Sans MS", .Size = 9.75F, .Weight = 700, .Italic = true}, .TabIndex = 1, .ZOrder = 1}};
+        .Font = {.Name = u"Comic Sans MS", .Size = 9.75F, .Weight = 700, .Italic = true}, .TabIndex = 1}};
 
     platform::SpinButton SpinButton{userControl, {
         .Name = u"SpinButton", .Left = 991, .Top = 0, .Width = 495, .Height = 345, .TabIndex = 0},

@@ -4,7 +4,7 @@
 
 namespace zilvo::platform {
 
-/// Two arrows, up over down, or, on a wide and low button, down beside up. A press of the user spins, and spins again
+/// Two arrows, up over down, or, on a wide button, down beside up. A press of the user spins, and spins again
 /// while it is held, by the host's clock; arrow keys spin too. Nothing done in code does.
 class SpinButton final : public Widget {
 public:
@@ -41,10 +41,8 @@ public:
 
 private:
     void spin(Spin way);
-    /// Wider than high, with room for two buttons of 30 pixels.
-    bool isSideBySide() const noexcept {
-        return bounds().width > bounds().height && bounds().width >= 60 * TwipsPerPixel;
-    }
+    /// With room for two buttons of 30 pixels: also where something covers its lower half, both can be reached.
+    bool isSideBySide() const noexcept { return bounds().width >= 60 * TwipsPerPixel; }
 
     SpinHandler spinUp_;
     SpinHandler spinDown_;

@@ -55,9 +55,12 @@ void Widget::place(Single Rectangle::*edge, Single value) {
     const Single twips = value * unit();
     if (bounds_.*edge == twips) return;
     const bool isSize = edge == &Rectangle::width || edge == &Rectangle::height;
+    const char* member = edge == &Rectangle::left    ? "Left"
+                         : edge == &Rectangle::top   ? "Top"
+                         : edge == &Rectangle::width ? "Width"
+                                                     : "Height";
     if (!std::isfinite(twips) || (isSize && twips < 0))
-        throw Failure(Status::InvalidPropertyValue,
-                      describe(*this, isSize ? "size" : "position") + " cannot be " + describe(Variant(value)));
+        throw Failure(Status::InvalidPropertyValue, describe(*this, member) + " cannot be " + describe(Variant(value)));
     bounds_.*edge = twips;
     changed();
     if (isSize) sizeChanged();
@@ -83,6 +86,16 @@ void Widget::put_Width(Single newWidth) {
 
 void Widget::put_Height(Single newHeight) {
     place(&Rectangle::height, newHeight);
+}
+
+void Widget::bringToFront() noexcept {
+    Long front = zOrder_;
+    for (const Widget& other : surface())
+        if (&other != this && &other.container() == &container_ && other.zOrder_ >= front)
+            front = other.zOrder_ + 1;
+    if (front == zOrder_) return;
+    zOrder_ = front;
+    changed();
 }
 
 void Widget::show(bool newVisible) {

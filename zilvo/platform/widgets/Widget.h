@@ -104,7 +104,7 @@ public:
     /// In the order of creation.
     Widget* nextOnSurface() const noexcept { return nextOnSurface_; }
     /// Among the widgets of one container the higher is in front, then the one created later.
-    Integer zOrder() const noexcept { return zOrder_; }
+    Long zOrder() const noexcept { return zOrder_; }
     /// Twips, in the container.
     const Rectangle& bounds() const noexcept { return bounds_; }
     /// False for what is not laid out on the surface (menus).
@@ -133,6 +133,8 @@ public:
     }
     String get_ToolTipText() const { return String(toolTipText_.view()); }
     void put_ToolTipText(StringView newToolTipText);
+    /// Before all others of its container.
+    void bringToFront() noexcept;
     Integer get_TabIndex() const noexcept { return tabIndex_; }
     void put_TabIndex(Integer newTabIndex);
 
@@ -193,7 +195,7 @@ private:
     Text toolTipText_;
     Integer index_;
     Integer tabIndex_;
-    Integer zOrder_;
+    Long zOrder_;
     bool visible_;
     bool enabled_;
     bool focused_ = false;
