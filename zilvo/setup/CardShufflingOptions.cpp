@@ -38,8 +38,10 @@ GenericCardShufflePossibilities CardShufflingOptions::get_CardShuffleMethod() {
 }
 
 void CardShufflingOptions::put_CardShuffleMethod(GenericCardShufflePossibilities CardShuffleMethodNewValue) {
-    storedCardShuffleMethod = static_cast<Long>(CardShuffleMethodNewValue);
-    optCardShuffleMethod.Item(narrow(storedCardShuffleMethod)).put_Value(true);
+    const auto method = static_cast<Long>(CardShuffleMethodNewValue);
+    OptionButton& option = optCardShuffleMethod.Item(narrow(method)); // what has none is not stored
+    storedCardShuffleMethod = method;
+    option.put_Value(true);
 }
 
 void CardShufflingOptions::optCardShuffleMethod_Click(Integer& Index) {

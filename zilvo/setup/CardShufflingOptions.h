@@ -18,7 +18,7 @@ public:
 
     GenericCardShufflePossibilities get_CardShuffleMethod();
     /// Selects the option button, which raises CardShuffleMethodChanged unless it is selected already. A value without
-    /// one is stored all the same, and fails with MissingElement or Overflow.
+    /// one fails with MissingElement or Overflow and changes nothing.
     void put_CardShuffleMethod(GenericCardShufflePossibilities CardShuffleMethodNewValue);
 
     /// Carries the method that became selected, by the player or through CardShuffleMethod.
