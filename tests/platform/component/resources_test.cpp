@@ -102,6 +102,10 @@ TEST(Resources, EveryControlHasItsOwnPictureAndInterfaceIds) {
     }
     std::ranges::sort(pictures);
     EXPECT_EQ(std::ranges::adjacent_find(pictures), pictures.end()) << "two controls look the same";
+    EXPECT_EQ(resourcesOf(libraryModule().description()).size(), 17U + 18U + 17U + 1U);
+    EXPECT_EQ(resource(u"_IID_ZILVOBUTTONGOODIES"),
+              (Bytes{16,   0,    0,    0,    0xB0, 0x3C, 0x8C, 0xF2, 0x4C, 0xB7,
+                     0x71, 0x4D, 0x8E, 0xA4, 0xC3, 0x3D, 0xD1, 0xBD, 0xC8, 0x6F}));
     EXPECT_EQ(resource(u"_SRCIID_VERTICALOK"), (Bytes{16,   0,    0,    0,    0xE5, 0x63, 0xDE, 0x6D, 0xB3, 0x29,
                                                       0x63, 0x48, 0xA9, 0x15, 0xB3, 0x4C, 0xA3, 0x15, 0x00, 0x27}));
 }
