@@ -33,7 +33,7 @@ end
 
 local function headerOf(class)
     for _, folder in ipairs { "buttons", "seats", "setup" } do
-        local name = string.format("%s/%s/%s.h", sources, folder, class)
+        local name = string.format("%s/zilvo/%s/%s.h", sources, folder, class)
         local file = io.open(name)
         if file then
             file:close()
