@@ -196,7 +196,8 @@ private:
         where
             .add_option("--registrations", given_.registrations,
                         "the user's registrations, in place of $ZILVO_REGISTRATIONS")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check([](const std::string& file) { return file.empty() ? "names no file" : std::string(); });
     }
     CLI::Option* takeClass(CLI::App& where, const char* text) {
         return where.add_option("class", given_.className, text)->type_name("CLASS");

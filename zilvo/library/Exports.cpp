@@ -14,7 +14,7 @@ constexpr std::uint32_t code(Status status) noexcept {
 } // namespace
 
 extern "C" std::uint32_t DllGetClassObject(const Guid* classId, const Guid* interfaceId, void** object) {
-    return code(getClassObject(componentModule(), *classId, *interfaceId, object));
+    return code(getClassObject(componentModule(), classId, interfaceId, object));
 }
 
 extern "C" std::uint32_t DllCanUnloadNow() {

@@ -35,4 +35,13 @@ Ref<T> create() {
     return createObject<T>(libraryModule());
 }
 
+/// The one instance of an application object that the library provides, the same one that late-bound hosts get:
+/// `application<ZilvoButtonGoodies>()->SeatBitSet(...)`.
+template <class T>
+Ref<T> application() {
+    ComponentModule& module = libraryModule();
+    const Ref<Object> object = platform::applicationObject(module, *module.description().find(T::Description.name));
+    return Ref<T>(static_cast<T&>(*object));
+}
+
 } // namespace zilvo

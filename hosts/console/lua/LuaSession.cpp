@@ -4,7 +4,7 @@ namespace zilvo::console {
 
 platform::Object& Session::application(const platform::LoadedComponent& component, const platform::ClassEntry& entry) {
     auto& instance = applications_[&entry];
-    if (!instance) instance = component.create(entry.identity.name);
+    if (!instance) instance = component.application(entry.identity.name);
     return *instance;
 }
 

@@ -325,20 +325,35 @@ TEST_F(RegistrationTest, TheUsualPlace) {
         const char* data;
         const char* home;
         const char* expected; ///< null for a failure
+        const char* complaint = "HOME";
     };
     const std::string oldHome = getenv("HOME") ? getenv("HOME") : "";
     const auto set = [](const char* name, const char* value) { value ? setenv(name, value, 1) : unsetenv(name); };
-    for (const Place& place : {Place{"/r", "/d", "/h", "/r"}, Place{"", "/d", "/h", "/d/zilvo/registrations"},
+    for (const Place& place : {Place{"/r", "/d", "/h", "/r"}, Place{"", "/d", "/h", nullptr, "names no file"},
+                               Place{nullptr, "/d", "/h", "/d/zilvo/registrations"},
                                Place{nullptr, "d", "/h", "/h/.local/share/zilvo/registrations"},
                                Place{nullptr, "", "/h", "/h/.local/share/zilvo/registrations"},
-                               Place{nullptr, nullptr, nullptr, nullptr}, Place{"", "d", "", nullptr}}) {
+                               Place{nullptr, nullptr, nullptr, nullptr}, Place{nullptr, "d", "", nullptr}}) {
         set("ZILVO_REGISTRATIONS", place.named);
         set("XDG_DATA_HOME", place.data);
         set("HOME", place.home);
         const auto outcome = outcomeOf([&] { EXPECT_EQ(RegistrationStore().file(), place.expected); });
-        EXPECT_EQ(outcome.says("HOME"), !place.expected) << outcome.message;
+        EXPECT_EQ(outcome.says(place.complaint), !place.expected) << outcome.message;
     }
     set("HOME", oldHome.c_str());
+}
+
+TEST_F(RegistrationTest, AComponentKnowsItsFileWhereverItsHostGoes) {
+    const auto before = std::filesystem::current_path();
+    const std::filesystem::path component = COMPONENT_FILE;
+    std::filesystem::current_path(component.parent_path());
+    void* library = dlopen(("./" + component.filename().string()).c_str(), RTLD_NOW);
+    std::filesystem::current_path(before);
+    ASSERT_NE(library, nullptr);
+    const auto registerServer = reinterpret_cast<RegistrationEntry*>(dlsym(library, "DllRegisterServer"));
+    EXPECT_EQ(registerServer(), 0U) << takeRegistrationError().message;
+    EXPECT_TRUE(store.find(component));
+    dlclose(library);
 }
 
 TEST_F(RegistrationTest, TheEntryPointsOfBothComponents) {

@@ -1,5 +1,5 @@
 #include "zilvo/library/ZilvoButtons.h"
-#include "zilvo/platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/ControlHost.h"
 
 #include <dlfcn.h>
@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <malloc.h>
+#include <map>
 
 namespace zilvo {
 
@@ -47,6 +48,52 @@ TEST(Runtime, CreatesByNameProgIdAndClassId) {
             EXPECT_NE(std::string_view(failure.what()).find(toUtf8(unknown)), std::string_view::npos);
         }
     }
+}
+
+TEST(Runtime, NullPointersGiveAStatus) {
+    void* library = dlopen(COMPONENT_FILE, RTLD_NOW);
+    const auto get = reinterpret_cast<GetClassObjectEntry*>(dlsym(library, "DllGetClassObject"));
+    const Guid& id = classIdentities.front().classId;
+    void* object = &library;
+    for (const std::uint32_t status : {get(nullptr, &ClassFactoryInterface, &object), get(&id, nullptr, &object),
+                                       get(&id, &ClassFactoryInterface, nullptr), get(nullptr, nullptr, nullptr)})
+        EXPECT_EQ(status, static_cast<std::uint32_t>(Status::NullPointer));
+    EXPECT_EQ(object, nullptr);
+    dlclose(library);
+}
+
+TEST(Runtime, ProvidesOneInstanceOfAnApplicationObject) {
+    Components components;
+    const LoadedComponent& component = components.add(COMPONENT_FILE);
+    auto one = components.application(u"ZILVO_ZilvoButtons.ZilvoButtonGoodies");
+    EXPECT_EQ(component.application(u"ZilvoButtonGoodies").get(), one.get());
+    EXPECT_NE(component.create(u"ZilvoButtonGoodies").get(), one.get());
+    EXPECT_EQ(component.liveObjects(), 1U);
+    one = {};
+    EXPECT_EQ(component.liveObjects(), 0U) << "it keeps no component loaded by itself";
+    for (const StringView no : {u"ssOKCancel", u"Nothing"})
+        EXPECT_THROW(component.application(no), Failure);
+
+    const auto typed = application<ZilvoButtonGoodies>();
+    EXPECT_EQ(application<ZilvoButtonGoodies>().get(), typed.get());
+    Integer SeatDescriptor = 5;
+    auto WhichBit = SeatSpreadPossibilities::SpreadToSeat1Requested;
+    EXPECT_EQ(typed->SeatBitSet(SeatDescriptor, WhichBit), SeatSpreadPossibilities{7});
+}
+
+TEST(Runtime, AClassThatIsNowhereIsNotAvailableWithoutAPlaceForRegistrations) {
+    std::map<const char*, std::string> before;
+    for (const char* name : {"ZILVO_REGISTRATIONS", "XDG_DATA_HOME", "HOME"})
+        if (const char* value = getenv(name)) before[name] = value, unsetenv(name);
+    Components components;
+    try {
+        components.create(u"Nowhere");
+        ADD_FAILURE();
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.status(), Status::ClassNotAvailable) << failure.what();
+    }
+    for (const auto& [name, value] : before)
+        setenv(name, value.c_str(), 1);
 }
 
 TEST(Runtime, RefusesToUnloadWhileAnythingLives) {
@@ -150,10 +197,10 @@ TEST(Runtime, FilesThatAreNoComponent) {
 TEST(Runtime, TheClassObjectEntryAnswersForUnknownIds) {
     void* object = &object;
     const auto& known = libraryModule().description().find(u"ssOKCancel")->identity.classId;
-    EXPECT_EQ(getClassObject(libraryModule(), InformationInterface, ClassFactoryInterface, &object),
+    EXPECT_EQ(getClassObject(libraryModule(), &InformationInterface, &ClassFactoryInterface, &object),
               Status::ClassNotAvailable);
     EXPECT_EQ(object, nullptr);
-    EXPECT_EQ(getClassObject(libraryModule(), known, known, &object), Status::NoInterface);
+    EXPECT_EQ(getClassObject(libraryModule(), &known, &known, &object), Status::NoInterface);
     EXPECT_TRUE(libraryModule().canUnload());
 }
 

@@ -186,9 +186,9 @@ using namespace zilvo;
 extern "C" std::uint32_t DllGetClassObject(const Guid* classId, const Guid* interfaceId, void** object) {
     *object = nullptr;
     if (has("known-class-refused") && *classId == FaultyClass) return code(Status::ClassNotAvailable);
-    const Status status = getClassObject(zilvo::module, *classId, *interfaceId, object);
+    const Status status = getClassObject(zilvo::module, classId, interfaceId, object);
     if (has("unknown-class-given") && status == Status::ClassNotAvailable)
-        return code(getClassObject(zilvo::module, FaultyClass, *interfaceId, object));
+        return code(getClassObject(zilvo::module, &FaultyClass, interfaceId, object));
     return code(status);
 }
 

@@ -13,22 +13,39 @@ Status ClassFactory::CreateInstance(Ref<Object>& instance, ErrorInfo* error) noe
         error, [&] { return toUtf8(entry_.identity.name); }, [&] { instance = entry_.create(lock_.module()); });
 }
 
-Status getClassObject(ComponentModule& module, const Guid& classId, const Guid& interfaceId, void** object) noexcept {
+Status getClassObject(ComponentModule& module, const Guid* classId, const Guid* interfaceId, void** object) noexcept {
+    if (!object) return Status::NullPointer;
     *object = nullptr;
-    if (classId == InformationClass && interfaceId == InformationInterface) {
+    if (!classId || !interfaceId) return Status::NullPointer;
+    if (*classId == InformationClass && *interfaceId == InformationInterface) {
         *object = &module;
         return Status::Ok;
     }
-    const ClassEntry* entry = module.description().find(classId);
+    const ClassEntry* entry = module.description().find(*classId);
     if (!entry) return Status::ClassNotAvailable;
-    if (interfaceId != ClassFactoryInterface) return Status::NoInterface;
+    const bool isApplication = *interfaceId == ApplicationInterface && !entry->identity.isControl();
+    if (*interfaceId != ClassFactoryInterface && !isApplication) return Status::NoInterface;
     return atTheEdge(
         nullptr, [] { return std::string(); },
         [&] {
-            auto factory = std::make_unique<ClassFactory>(module, *entry);
-            factory->AddRef();
-            *object = factory.release();
+            if (isApplication) {
+                const Ref<Object> application = applicationObject(module, *entry);
+                application->AddRef();
+                *object = application.get();
+            } else {
+                auto factory = std::make_unique<ClassFactory>(module, *entry);
+                factory->AddRef();
+                *object = factory.release();
+            }
         });
+}
+
+Ref<Object> applicationObject(ComponentModule& module, const ClassEntry& entry) {
+    for (Object* living : module.applications_)
+        if (&living->description() == &entry.description) return Ref<Object>(*living);
+    Ref<Object> made = entry.create(module);
+    module.applications_.push_back(made.get());
+    return made;
 }
 
 Status canUnloadNow(const ComponentModule& module) noexcept {

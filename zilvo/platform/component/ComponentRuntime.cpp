@@ -91,22 +91,34 @@ Status LoadedComponent::getClassObject(const Guid& classId, const Guid& interfac
     return Status{getClassObject_(&classId, &interfaceId, object)};
 }
 
-Ref<ClassFactory> LoadedComponent::classFactory(const Guid& classId) const {
+template <class T>
+Ref<T> LoadedComponent::classObject(const Guid& classId, const Guid& interfaceId) const {
     void* object = nullptr;
-    const Status status = getClassObject(classId, ClassFactoryInterface, &object);
-    if (!succeeded(status)) throw Failure(status, file_.string() + " has no class " + classId.text());
-    Ref<ClassFactory> factory(*static_cast<ClassFactory*>(object));
-    factory->Release(); // the reference that the component gave; `factory` holds its own
-    return factory;
+    const Status status = getClassObject(classId, interfaceId, &object);
+    if (!succeeded(status)) throw Failure(status, file_.string() + ": class " + classId.text() + ": " + nameOf(status));
+    Ref<T> given(*static_cast<T*>(object));
+    given->Release();
+    return given;
+}
+
+Ref<ClassFactory> LoadedComponent::classFactory(const Guid& classId) const {
+    return classObject<ClassFactory>(classId, ClassFactoryInterface);
+}
+
+const ClassEntry& LoadedComponent::entryOf(StringView className) const {
+    if (const ClassEntry* entry = description().find(className)) return *entry;
+    throw Failure(Status::ClassNotAvailable, file_.string() + " has no class " + toUtf8(className));
 }
 
 Ref<Object> LoadedComponent::create(StringView className) const {
-    const ClassEntry* entry = description().find(className);
-    if (!entry) throw Failure(Status::ClassNotAvailable, file_.string() + " has no class " + toUtf8(className));
     Ref<Object> instance;
     ErrorInfo error;
-    throwUnlessOk(classFactory(entry->identity.classId)->CreateInstance(instance, &error), error);
+    throwUnlessOk(classFactory(entryOf(className).identity.classId)->CreateInstance(instance, &error), error);
     return instance;
+}
+
+Ref<Object> LoadedComponent::application(StringView className) const {
+    return classObject<Object>(entryOf(className).identity.classId, ApplicationInterface);
 }
 
 void LoadedComponent::registerServer() const {

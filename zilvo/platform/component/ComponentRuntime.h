@@ -30,6 +30,9 @@ public:
     Ref<ClassFactory> classFactory(const Guid& classId) const;
     /// Creates an instance by class name, ProgID or class id.
     Ref<Object> create(StringView className) const;
+    /// The one instance of an application object that the component provides, by class name, ProgID or class id: the
+    /// same for all as long as anybody holds it. Fails with ClassNotAvailable, or NoInterface for any other class.
+    Ref<Object> application(StringView className) const;
 
     /// Enters the component into the user's registration store, and takes it out again; see RegistrationStore.
     void registerServer() const;
@@ -41,6 +44,10 @@ public:
 
 private:
     const ComponentModule& module() const;
+    const ClassEntry& entryOf(StringView className) const;
+    /// The reference that the component gives becomes the result's own.
+    template <class T>
+    Ref<T> classObject(const Guid& classId, const Guid& interfaceId) const;
 
     struct Unload {
         void operator()(void* library) const noexcept;

@@ -12,7 +12,7 @@ struct RegisteredClass {
 };
 
 /// The newest of that name; fails with ClassNotAvailable.
-RegisteredClass findRegistered(StringView name, const RegistrationStore& store) {
+RegisteredClass newestOf(StringView name, const RegistrationStore& store) {
     const auto id = Guid::parse(toUtf8(name));
     std::optional<RegisteredClass> newest;
     for (const Registration& registration : store.read())
@@ -35,21 +35,35 @@ const LoadedComponent& Components::add(const std::filesystem::path& file) {
 }
 
 Ref<Object> Components::create(StringView name) {
-    for (const LoadedComponent& component : loaded_)
-        if (component.description().find(name)) return component.create(name);
-    return createRegistered(name);
+    const Found found = find(name);
+    return found.component.create(found.className);
 }
 
-Ref<Object> Components::createRegistered(StringView name) {
-    const RegistrationStore store;
-    const RegisteredClass found = findRegistered(name, store);
+Ref<Object> Components::application(StringView name) {
+    const Found found = find(name);
+    return found.component.application(found.className);
+}
+
+Components::Found Components::find(StringView name) {
+    for (const LoadedComponent& component : loaded_)
+        if (component.description().find(name)) return {component, String(name)};
+    return findRegistered(name);
+}
+
+Components::Found Components::findRegistered(StringView name) {
+    const auto file = RegistrationStore::usualFile();
+    if (!file)
+        throw Failure(Status::ClassNotAvailable,
+                      "no loaded component has a class " + toUtf8(name) + ", and there is no place for registrations");
+    const RegistrationStore store(*file);
+    const RegisteredClass found = newestOf(name, store);
     const LoadedComponent* component = nullptr;
     inContext([&] { return toUtf8(name) + ", registered in " + store.file().string(); },
               [&] { component = &add(found.file); });
     if (!component->description().find(found.classId))
         throw Failure(Status::ClassNotAvailable, toUtf8(name) + " is registered in " + store.file().string() + " for " +
                                                      found.file.string() + ", which does not have it");
-    return component->create(toUtf16(found.classId.text()));
+    return {*component, toUtf16(found.classId.text())};
 }
 
 std::size_t Components::liveObjects() const {

@@ -19,13 +19,22 @@ public:
     /// is gone or broken; and as reading the store and the class's Initialize do.
     Ref<Object> create(StringView name);
 
+    /// The one instance of an application object, found in the same way; see LoadedComponent::application().
+    Ref<Object> application(StringView name);
+
     /// In the order in which they were loaded; the first is the host's main one.
     const std::deque<LoadedComponent>& loaded() const noexcept { return loaded_; }
     const LoadedComponent& main() const noexcept { return loaded_.front(); }
     std::size_t liveObjects() const;
 
 private:
-    Ref<Object> createRegistered(StringView name);
+    /// The component that has the class, loaded if need be, and the class's name there.
+    struct Found {
+        const LoadedComponent& component;
+        String className;
+    };
+    Found find(StringView name);
+    Found findRegistered(StringView name);
 
     std::deque<LoadedComponent> loaded_; ///< which leaves them where they are when it grows
 };

@@ -3,10 +3,15 @@
 #include <cstddef>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace zilvo::platform {
 
+struct ClassEntry;
 struct ComponentDescription;
+class Object;
+template <class T>
+class Ref;
 
 /// The one piece of state that a component has: what of it is alive. It must not be unloaded while anything is.
 /// Everything runs on the host's user-interface thread, so the counts are plain numbers.
@@ -24,10 +29,13 @@ public:
 private:
     friend class Object;
     friend class ModuleLock;
+    friend Ref<Object> applicationObject(ComponentModule& module, const ClassEntry& entry);
 
     const ComponentDescription& description_;
     std::size_t objects_ = 0;
     std::size_t locks_ = 0;
+    /// The application objects that are alive, one of each class; they leave when they die.
+    std::vector<Object*> applications_;
 };
 
 /// The module of the component that the call is made in. Each component defines it, for its entry points.

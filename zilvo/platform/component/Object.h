@@ -41,7 +41,10 @@ public:
 
 protected:
     explicit Object(ComponentModule& module) noexcept : module_(module) { ++module_.objects_; }
-    virtual ~Object() { --module_.objects_; }
+    virtual ~Object() {
+        --module_.objects_;
+        std::erase(module_.applications_, this);
+    }
 
 private:
     void destroy() noexcept;

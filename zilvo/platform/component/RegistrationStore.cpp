@@ -40,15 +40,25 @@ std::optional<std::filesystem::path> pathIn(const char* variable) {
 
 } // namespace
 
+RegistrationStore::RegistrationStore() {
+    const auto file = usualFile();
+    if (!file)
+        throw Failure(Status::RegistrationsUnreadable, std::string("there is no place for registrations: none of ") +
+                                                           EnvironmentVariable + ", XDG_DATA_HOME and HOME is set");
+    file_ = std::filesystem::absolute(*file);
+}
+
 RegistrationStore::RegistrationStore(const std::filesystem::path& file) : file_(std::filesystem::absolute(file)) {}
 
-std::filesystem::path RegistrationStore::usualFile() {
+std::optional<std::filesystem::path> RegistrationStore::usualFile() {
     constexpr const char* BelowData = "zilvo/registrations";
-    if (const auto file = pathIn(EnvironmentVariable)) return *file;
+    if (const char* given = std::getenv(EnvironmentVariable)) {
+        if (*given) return given;
+        throw Failure(Status::RegistrationsUnreadable, std::string(EnvironmentVariable) + " is set, but names no file");
+    }
     if (const auto data = pathIn("XDG_DATA_HOME"); data && data->is_absolute()) return *data / BelowData;
     if (const auto home = pathIn("HOME")) return *home / ".local/share" / BelowData;
-    throw Failure(Status::RegistrationsUnreadable, std::string("there is no place for registrations: none of ") +
-                                                       EnvironmentVariable + ", XDG_DATA_HOME and HOME is set");
+    return std::nullopt;
 }
 
 Registrations RegistrationStore::read() const {

@@ -14,11 +14,14 @@ public:
     /// Names another file than the usual one.
     static constexpr const char* EnvironmentVariable = "ZILVO_REGISTRATIONS";
 
-    explicit RegistrationStore(const std::filesystem::path& file = usualFile());
+    /// The usual file; fails with RegistrationsUnreadable when there is none.
+    RegistrationStore();
+    explicit RegistrationStore(const std::filesystem::path& file);
 
-    /// $ZILVO_REGISTRATIONS, else $XDG_DATA_HOME/zilvo/registrations, else $HOME/.local/share/zilvo/registrations.
-    /// Fails with RegistrationsUnreadable when none of the variables is set.
-    static std::filesystem::path usualFile();
+    /// $ZILVO_REGISTRATIONS, else $XDG_DATA_HOME/zilvo/registrations, else $HOME/.local/share/zilvo/registrations;
+    /// nothing when none of the variables is set. Fails with RegistrationsUnreadable when the first is set but empty:
+    /// whoever sets it wants another file than the user's own.
+    static std::optional<std::filesystem::path> usualFile();
 
     const std::filesystem::path& file() const noexcept { return file_; }
 

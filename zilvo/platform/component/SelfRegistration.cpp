@@ -2,7 +2,10 @@
 
 #include "zilvo/platform/component/RegistrationStore.h"
 
+#include <charconv>
+#include <cstdint>
 #include <dlfcn.h>
+#include <fstream>
 
 namespace zilvo::platform {
 
@@ -10,12 +13,21 @@ namespace {
 
 thread_local ErrorInfo registrationError;
 
-/// A component does not know its own file, but the loader knows whose memory the module is.
+/// A component does not know its own file, but the system knows what is mapped where the module lies. The loader
+/// knows the name that it was given, which may be relative to a folder that is no longer the current one.
 std::filesystem::path fileOf(const ComponentModule& module) {
-    Dl_info found{};
-    if (dladdr(&module, &found) == 0 || !std::filesystem::exists(found.dli_fname))
-        throw Failure(Status::FileNotFound, "the file of the component cannot be found");
-    return found.dli_fname;
+    Dl_info loaded{};
+    if (dladdr(&module, &loaded) != 0) {
+        const auto start = reinterpret_cast<std::uintptr_t>(loaded.dli_fbase);
+        std::ifstream maps("/proc/self/maps"); // "7f00-7f10 r--p 00000000 08:01 1234   /the/file"
+        for (std::string line; std::getline(maps, line);) {
+            std::uintptr_t from = 0;
+            std::from_chars(line.data(), line.data() + line.size(), from, 16);
+            const auto path = line.find('/');
+            if (from == start && path != std::string::npos) return line.substr(path);
+        }
+    }
+    throw Failure(Status::FileNotFound, "the file of the component cannot be found");
 }
 
 template <class Body>

@@ -15,6 +15,8 @@ const char* nameOf(Status status) noexcept {
         return "not implemented";
     case Status::NoInterface:
         return "no such interface";
+    case Status::NullPointer:
+        return "null pointer";
     case Status::Failed:
         return "failed";
     case Status::UnexpectedCall:

@@ -12,6 +12,7 @@ enum class Status : std::uint32_t {
     False = 0x00000001,
     NotImplemented = 0x80004001,
     NoInterface = 0x80004002,
+    NullPointer = 0x80004003,
     Failed = 0x80004005,
     UnexpectedCall = 0x8000FFFF,
     UnknownMember = 0x80020003,
