@@ -175,7 +175,7 @@ private:
 Observer::Observer() = default;
 Observer::~Observer() = default;
 
-void Observer::created(Object& object) {
+Observer::Watch Observer::created(Object& object) {
     lookAtAll();
     const auto className = toUtf8(object.description().name);
     Known& known = known_[className];
@@ -191,6 +191,7 @@ void Observer::created(Object& object) {
             writeDifferences(watched, part, known.values[at]);
         }
     }
+    return {&object, {this}};
 }
 
 /// "cmdOK: CommandButton in panelCmdOK, Left 240, Top 240"

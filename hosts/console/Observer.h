@@ -20,12 +20,19 @@ public:
     Observer& operator=(const Observer&) = delete;
     ~Observer();
 
-    /// Watches an object until it is forgotten; first of all, before it has a site. The first one of a class is
-    /// written down whole, without what is usual; a later one where it differs from that.
-    void created(platform::Object& object);
+    /// Ends the watching of an object.
+    struct Forget {
+        Observer* observer = nullptr;
+        void operator()(const platform::Object* object) const noexcept { observer->forget(*object); }
+    };
+    using Watch = std::unique_ptr<const platform::Object, Forget>;
+
+    /// Watches an object, first of all before it has a site, as long as the result is kept; which must neither outlive
+    /// the observer nor the object. The first one of a class is written down whole, without what is usual; a later one
+    /// where it differs from that.
+    [[nodiscard]] Watch created(platform::Object& object);
     /// Watches the host's extender of the object that was created last, too.
     void watchExtender(platform::Described& extender);
-    void forget(const platform::Object& object) noexcept;
 
     /// Something on the object's surface has changed: its widgets are looked at, so that an order of steps shows.
     void viewChanged(const platform::Object& object);
@@ -61,6 +68,7 @@ private:
         std::vector<std::vector<std::string>> values;
     };
 
+    void forget(const platform::Object& object) noexcept;
     Watched* find(const platform::Object& object) noexcept;
     void look(Watched& watched, Members members);
     void lookAtAll();

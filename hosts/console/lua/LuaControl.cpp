@@ -131,7 +131,7 @@ int save(lua_State* L) {
     using Defaults = MemoryPropertyBag::Defaults;
     MemoryPropertyBag bag(lua_toboolean(L, 2) ? Defaults::Kept : Defaults::LeftOut);
     hostAt(L, 1).save(bag);
-    if (Observer* observer = sessionOf(L).observer) observer->note(*objectAt(L, 1).object, savedText(bag));
+    if (const auto& observer = sessionOf(L).observer) observer->note(*objectAt(L, 1).object, savedText(bag));
     lua_newtable(L);
     lua_newtable(L);
     for (const auto& [name, value] : bag.settings()) {
@@ -327,9 +327,9 @@ int createObject(lua_State* L) {
     Options options;
     readOptions(L, 2, options);
 
-    LuaControl control{session.nextNumber(), session.components.create(className), nullptr, {}};
+    LuaControl control{session.nextNumber(), session.components.create(className), nullptr, {}, {}};
     defineGlobals(L);
-    if (session.observer) session.observer->created(*control.object);
+    if (session.observer) control.watch = session.observer->created(*control.object);
     if (control.object->hostedControl()) {
         control.host = std::make_unique<ScriptedControl>(control.object, session);
         for (const auto& [name, value] : options.ambient)

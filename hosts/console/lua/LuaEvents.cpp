@@ -72,7 +72,7 @@ int HandlerSink::run(lua_State* L) {
         if (lua_isnil(L, at)) continue;
         const auto what = call.sink.name_ + ", value " + std::to_string(i + 1) + " that the handler gives";
         const Variant value = toVariant(L, at, what);
-        if (Observer* observer = sessionOf(L).observer) observer->note("gives " + shownValue(value));
+        if (const auto& observer = sessionOf(L).observer) observer->note("gives " + shownValue(value));
         try {
             call.arguments[static_cast<std::size_t>(i)].assign(value);
         } catch (const Failure& failure) {
@@ -84,7 +84,7 @@ int HandlerSink::run(lua_State* L) {
 
 void HandlerSink::Event(Long, std::span<Variant> arguments) {
     const auto alive = shared_from_this(); // the handler may disconnect itself
-    const Observer::Handling handling(session_.observer);
+    const Observer::Handling handling(session_.observer.get());
     lua_State* L = session_.current;
     if (!lua_checkstack(L, 4)) throw Failure(Status::OutOfMemory, name_ + ": the stack of Lua is full");
     HandlerCall call{*this, arguments};

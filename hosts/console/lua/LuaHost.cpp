@@ -159,7 +159,7 @@ int printObserved(lua_State* L) {
         text += " " + shownForPeople(L, at);
     std::ranges::replace_if(
         text, [](unsigned char letter) { return letter < 0x20; }, ' ');
-    if (Observer* observer = sessionOf(L).observer) observer->note("prints" + text);
+    if (const auto& observer = sessionOf(L).observer) observer->note("prints" + text);
     return 0;
 }
 
@@ -253,10 +253,10 @@ bool LuaHost::isWhole(const std::string& lines) {
 }
 
 bool LuaHost::play(Transcript& transcript, const std::string& file, const std::function<void(std::size_t)>& reached) {
-    Observer observer;
+    session_.observer = std::make_unique<Observer>();
     Transcript::Statement* running = nullptr;
     const auto finish = [&] {
-        auto lines = observer.taken();
+        auto lines = session_.observer->taken();
         if (running) std::ranges::move(lines, std::back_inserter(running->observed));
     };
     session_.reached = [&](std::size_t line) {
@@ -267,13 +267,11 @@ bool LuaHost::play(Transcript& transcript, const std::string& file, const std::f
         running->hasRun = true;
         reached(running->first);
     };
-    session_.observer = &observer;
     const Played played{transcript.script(), "@" + file};
     const bool succeeded = callProtected(lua_.get(), runPlayed, played);
     lua_sethook(lua_.get(), nullptr, 0, 0);
     if (!succeeded) std::cerr << "zilvo: " << errorOf(lua_.get()) << '\n';
     finish();
-    session_.observer = nullptr;
     session_.reached = nullptr;
     std::cout.flush();
     return succeeded;

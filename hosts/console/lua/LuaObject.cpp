@@ -42,9 +42,7 @@ ScriptedControl::ScriptedControl(Ref<Object> object, Session& session)
         observed_.push_back(std::make_unique<ObservedEvent>(*this, event));
 }
 
-ScriptedControl::~ScriptedControl() {
-    if (session_.observer) session_.observer->forget(object());
-}
+ScriptedControl::~ScriptedControl() = default;
 
 void ScriptedControl::PropertyChanged(StringView name) {
     ControlHost::PropertyChanged(name);

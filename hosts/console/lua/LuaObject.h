@@ -47,6 +47,7 @@ struct LuaControl {
     lua_Integer number; ///< given to no other
     platform::Ref<platform::Object> object;
     std::unique_ptr<ScriptedControl> host; ///< null for an object that is no control
+    Observer::Watch watch;                 ///< null without an observer
     std::map<lua_Integer, std::shared_ptr<HandlerSink>> handlers;
 
     std::string className() const { return platform::toUtf8(object->description().name); }

@@ -23,7 +23,7 @@ public:
     std::size_t namedComponents = 0;
     std::size_t beeps = 0;
     /// Writes down what happens while a transcript is played; else null.
-    Observer* observer = nullptr;
+    std::unique_ptr<Observer> observer;
     /// Told each line of the script itself that is about to run.
     std::function<void(std::size_t line)> reached;
     /// The Lua thread whose call into the component is running: an event's handler runs on it.
