@@ -97,8 +97,11 @@ void SeatCheckBoxes::ArrangeTheSeatBoxes() {
     frameSeatSpread.put_Height(1400);
     userControl.put_Height(2385);
     const Integer n = narrow(static_cast<Long>(get_NumberOfSeatsAllowed()));
-    for (Integer k = 1; k <= MostSeats; ++k)
-        checkSeatSelected.Item(k).put_Visible(k <= n);
+    Integer k = 1;
+    for (; k <= n; ++k) // more than ten fail at the missing box
+        checkSeatSelected.Item(k).put_Visible(true);
+    for (; k <= MostSeats; ++k)
+        checkSeatSelected.Item(k).put_Visible(false);
     UseAmbientColors();
 }
 

@@ -79,8 +79,10 @@ void SitDownButton::ArrangeTheSeatOptions() {
     frameSeatSelector.put_Height(1400);
     userControl.put_Height(2385);
     const Integer n = narrow(static_cast<Long>(get_NumberOfSeatsAllowed()));
-    for (Integer k = 1; k <= MostSeats; ++k)
-        optSeatSelected.Item(k).put_Visible(k <= n);
+    for (Integer k = 1; k <= n; ++k) // what is no count of seats fails at the missing option, here or below
+        optSeatSelected.Item(k).put_Visible(true);
+    for (Integer k = narrow(n + 1); k <= MostSeats; ++k)
+        optSeatSelected.Item(k).put_Visible(false);
     UseAmbientColors();
 }
 
