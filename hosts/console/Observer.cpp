@@ -182,6 +182,7 @@ Observer::Watch Observer::created(Object& object) {
     const auto name = className + (known.created++ > 0 ? " " + std::to_string(known.created) : "");
     const Watched& watched = *watched_.emplace_back(std::make_unique<Watched>(object, name));
     write("created " + name);
+    newest_ = name;
     for (std::size_t at = 0; at < watched.parts.size(); ++at) {
         const Part& part = watched.parts[at];
         if (known.created == 1) {
@@ -283,7 +284,7 @@ void Observer::lookAtAll() {
 
 /// What a script has created last needs no name.
 std::string Observer::prefixOf(const Watched& watched) const {
-    return &watched == watched_.back().get() ? "" : "[" + watched.name + "] ";
+    return watched.name == newest_ ? "" : "[" + watched.name + "] ";
 }
 
 void Observer::write(const std::string& line) {

@@ -79,6 +79,7 @@ private:
     void writeDifferences(const Watched& watched, const Part& part, const std::vector<std::string>& before);
 
     std::vector<std::unique_ptr<Watched>> watched_; ///< in the order of their creation
+    std::string newest_; ///< the name of the object that was created last, alive or not
     std::map<std::string, Known> known_;
     std::vector<std::string> lines_;
     std::string open_; ///< the label of the last line while it can take more changes

@@ -49,11 +49,11 @@ seats:SelectButton(4)
 --> optPlayerSeatSelector(4): Value False -> True
 --> PlayerSeatSelected(4)
 for _, key in ipairs { "Tab", "Left", "Alt+4", "Alt+5", "Alt+6", "Tab", "Space" } do seats:keydown(key) end
---> focus optPlayerSeatSelector(6) -> none, none -> optPlayerSeatSelector(2), optPlayerSeatSelector(2) -> none, none -> optPlayerSeatSelector(7)
+--> focus optPlayerSeatSelector(6) -> optPlayerSeatSelector(2), optPlayerSeatSelector(2) -> optPlayerSeatSelector(7)
 --> optPlayerSeatSelector(4): Value True -> False
 --> optPlayerSeatSelector(7): Value False -> True
 --> PlayerSeatSelected(7)
---> focus optPlayerSeatSelector(7) -> none, none -> optPlayerSeatSelector(6)
+--> focus optPlayerSeatSelector(7) -> optPlayerSeatSelector(6)
 --> optPlayerSeatSelector(6): Value False -> True
 --> optPlayerSeatSelector(7): Value True -> False
 --> PlayerSeatSelected(6)

@@ -32,7 +32,7 @@ button:click()
 -->   optSeatSelected(3): Enabled True -> False
 -->   optSeatSelected(7): Enabled True -> False
 print(seat(3):click(), seat(4):click())
---> focus cmdSitDown -> none, none -> optSeatSelected(4)
+--> focus cmdSitDown -> optSeatSelected(4)
 --> optSeatSelected(4): Value False -> True
 --> focus optSeatSelected(4) -> none
 --> frameSeatSelector: Visible True -> False
@@ -53,7 +53,7 @@ for _, key in ipairs { "Tab", "Alt+1", "Enter", "Tab", "Tab", "Shift+Tab", "Esca
 --> frameSeatSelector: Visible False -> True
 --> SitdownButtonWasClicked()
 --> TellMeWhichSeatsAreAvailable()
---> focus cmdSitDown -> none, none -> optSeatSelected(1), optSeatSelected(1) -> none, none -> cmdSitDown, cmdSitDown -> none, none -> optSeatSelected(1)
+--> focus cmdSitDown -> optSeatSelected(1), optSeatSelected(1) -> cmdSitDown, cmdSitDown -> optSeatSelected(1)
 --> optSeatSelected(1): Value False -> True
 --> focus optSeatSelected(1) -> none
 --> frameSeatSelector: Visible True -> False

@@ -33,19 +33,19 @@ for _ = 1, 2 do ask:click() end
 -->   SpreadSeatBoxes.checkSeatSelected(4): Enabled False -> True
 --> TellMeWhichSeatsAreAvailable()
 for _, k in ipairs { 4, 4, 1 } do box(k):click() end
---> focus commandSpreadToSeats -> none, none -> checkSeatSelected(4)
+--> focus commandSpreadToSeats -> checkSeatSelected(4)
 --> SpreadSeatBoxes.checkSeatSelected(4): Value 0 -> 1
 --> SeatSpreadToWas(Seat4WasSelected)
 --> SpreadSeatBoxes.checkSeatSelected(4): Value 1 -> 0
 --> SeatSpreadToWas(-4)
 for _, key in ipairs { "Tab", "Enter", "Space", "Escape", "Tab", "Space", "Shift+Tab" } do spread:keydown(key) end
---> focus checkSeatSelected(4) -> none, none -> commandSpreadToSeats
+--> focus checkSeatSelected(4) -> commandSpreadToSeats
 --> TellMeWhichSeatsAreAvailable()
 --> TellMeWhichSeatsAreAvailable()
---> focus commandSpreadToSeats -> none, none -> checkSeatSelected(2)
+--> focus commandSpreadToSeats -> checkSeatSelected(2)
 --> SpreadSeatBoxes.checkSeatSelected(2): Value 0 -> 1
 --> SeatSpreadToWas(Seat2WasSelected)
---> focus checkSeatSelected(2) -> none, none -> commandSpreadToSeats
+--> focus checkSeatSelected(2) -> commandSpreadToSeats
 spread:invoke(0x68030000, "put", 5)
 --> SpreadSeatButtons: NumberOfSeatsAllowed Seat7WasSelected -> Seat5WasSelected
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat7WasSelected -> Seat5WasSelected
@@ -64,14 +64,14 @@ spread:on("SeatSpreadToWas", function(seat)
   spread:AvailableSeatsAre { true }
 end)
 for _, k in ipairs { 2, 4 } do pcall(function() box(k):click() end) end
---> focus commandSpreadToSeats -> none, none -> checkSeatSelected(2)
+--> focus commandSpreadToSeats -> checkSeatSelected(2)
 --> SpreadSeatBoxes.checkSeatSelected(2): Value 1 -> 0
 --> SeatSpreadToWas(-2)
 -->   gives 88
 -->   SpreadSeatBoxes.checkSeatSelected(1): Enabled False -> True
 -->   SpreadSeatButtons: NumberOfSeatsAllowed Seat2WasSelected -> Seat1WasSelected
 -->   SpreadSeatBoxes: NumberOfSeatsAllowed Seat2WasSelected -> Seat1WasSelected
---> focus checkSeatSelected(2) -> none, none -> checkSeatSelected(4)
+--> focus checkSeatSelected(2) -> checkSeatSelected(4)
 --> SpreadSeatBoxes.checkSeatSelected(4): Value 0 -> 1
 --> SeatSpreadToWas(Seat4WasSelected)
 -->   gives 94

@@ -33,7 +33,7 @@ for _, k in ipairs { 3, 3, 2 } do box(k):click() end
 --> SpreadSeatBoxes.checkSeatSelected(3): Value 1 -> 0
 --> SeatSpreadToWas(-3)
 done:click()
---> focus checkSeatSelected(3) -> none, none -> commandDoneButton
+--> focus checkSeatSelected(3) -> commandDoneButton
 --> DoneButtonWasClicked()
 panel:MySeatIS(3)
 --> SpreadSeatBoxes.buttonSeatOwner: Caption "?" -> "3", Left 720 -> 1140, Top 480 -> 880, Visible False -> True
@@ -43,13 +43,13 @@ panel:invoke(0x68030000, "put", 9)
 --> paneledSeatBoxes: NumberOfSeatsAllowed Seat7WasSelected -> Seat9WasSelected
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat7WasSelected -> Seat9WasSelected
 for _, key in ipairs { "Tab", "Space", "Tab", "Tab", "Enter", "Space", "Escape", "Shift+Tab" } do panel:keydown(key) end
---> focus commandDoneButton -> none, none -> checkSeatSelected(3)
+--> focus commandDoneButton -> checkSeatSelected(3)
 --> SpreadSeatBoxes.checkSeatSelected(3): Value 0 -> 1
 --> SeatSpreadToWas(Seat3WasSelected)
---> focus checkSeatSelected(3) -> none, none -> checkSeatSelected(1), checkSeatSelected(1) -> none, none -> commandDoneButton
+--> focus checkSeatSelected(3) -> checkSeatSelected(1), checkSeatSelected(1) -> commandDoneButton
 --> DoneButtonWasClicked()
 --> DoneButtonWasClicked()
---> focus commandDoneButton -> none, none -> checkSeatSelected(1)
+--> focus commandDoneButton -> checkSeatSelected(1)
 
 -- What the boxes refuse is refused, after what they did before.
 for _, seats in ipairs { {}, zilvo.array(2, { true }) } do pcall(panel.AvailableSeatsAre, panel, seats) end
@@ -65,13 +65,13 @@ panel:on("SeatSpreadToWas", function(seat)
   panel:AvailableSeatsAre { true }
 end)
 for _, k in ipairs { 3, 1 } do pcall(function() box(k):click() end) end
---> focus checkSeatSelected(1) -> none, none -> checkSeatSelected(3)
+--> focus checkSeatSelected(1) -> checkSeatSelected(3)
 --> SpreadSeatBoxes.checkSeatSelected(3): Value 1 -> 0
 --> SeatSpreadToWas(-3)
 -->   gives 87
 -->   paneledSeatBoxes: NumberOfSeatsAllowed Seat2WasSelected -> Seat1WasSelected
 -->   SpreadSeatBoxes: NumberOfSeatsAllowed Seat2WasSelected -> Seat1WasSelected
---> focus checkSeatSelected(3) -> none, none -> checkSeatSelected(1)
+--> focus checkSeatSelected(3) -> checkSeatSelected(1)
 --> SpreadSeatBoxes.checkSeatSelected(1): Value 0 -> 1
 --> SeatSpreadToWas(Seat1WasSelected)
 -->   gives 91

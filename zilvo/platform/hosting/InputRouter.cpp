@@ -218,7 +218,7 @@ bool InputRouter::choose(Menu* item) {
 
 void InputRouter::showPopup(Menu& root) {
     letGo();
-    popup_.open(root, pointer_);
+    popup_.open(root, pointer_, root_.area());
 }
 
 /// Ends the capture; gives the widget that had it.
@@ -241,6 +241,7 @@ void InputRouter::setFocus(Widget* widget) {
     if (focus_) focus_->setFocused(false);
     focus_ = widget;
     if (focus_) focus_->setFocused(true);
+    root_.viewChanged();
 }
 
 void InputRouter::advanceFocus(bool forward) {

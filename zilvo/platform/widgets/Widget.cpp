@@ -91,8 +91,7 @@ void Widget::put_Height(Single newHeight) {
 void Widget::bringToFront() noexcept {
     Long front = zOrder_;
     for (const Widget& other : surface())
-        if (&other != this && &other.container() == &container_ && other.zOrder_ >= front)
-            front = other.zOrder_ + 1;
+        if (&other != this && &other.container() == &container_ && other.zOrder_ >= front) front = other.zOrder_ + 1;
     if (front == zOrder_) return;
     zOrder_ = front;
     changed();
@@ -133,12 +132,6 @@ bool Widget::leadsGroup() const noexcept {
         if (other.tabIndex_ < tabIndex_ || (other.tabIndex_ == tabIndex_ && !passed)) return false;
     }
     return true;
-}
-
-void Widget::setFocused(bool focused) noexcept {
-    if (focused_ == focused) return;
-    focused_ = focused;
-    changed();
 }
 
 void Widget::setPressed(bool pressed) noexcept {
