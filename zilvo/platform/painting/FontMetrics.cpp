@@ -106,6 +106,11 @@ Single lineHeight(const FontLook& font) noexcept {
     return ascent(font) + static_cast<Single>(wholePixels(emOf(font) * familyOf(font).descent));
 }
 
+Single capHeight(const FontLook& font) noexcept {
+    constexpr double OfEm = 0.72;
+    return static_cast<Single>(wholePixels(emOf(font) * OfEm));
+}
+
 Single ascent(const FontLook& font) noexcept {
     return static_cast<Single>(wholePixels(emOf(font) * familyOf(font).ascent));
 }

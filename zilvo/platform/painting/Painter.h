@@ -31,12 +31,16 @@ struct ShapeStyle {
     bool dotted = false;
 };
 
+/// Where something lies in what has room for it.
+enum class Alignment : std::uint8_t { Near, Centre, Far };
+
 /// One line of text. `origin` is the left end of the baseline; `width` is what measure() gave for it, and the
-/// painter keeps to it whatever font it ends up with.
+/// painter keeps to it whatever font it ends up with, or else at least to the edge or the middle that is aligned.
 struct TextRun {
     StringView text;
     Point origin;
     Single width = 0;
+    Alignment align = Alignment::Near;
     FontLook font;
     Rgb colour;
     /// The letter to underline as an access key; npos for none.

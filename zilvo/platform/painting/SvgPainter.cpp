@@ -200,19 +200,30 @@ void appendFont(std::string& out, const FontLook& font) {
     }
 }
 
-/// The rule under the access key; a pair of surrogates is one letter. `run.underlined` lies inside the text.
-Rectangle accessKeyRule(const TextRun& run) {
+/// The access key with a rule under it that goes where the letter goes; a pair of surrogates is one letter.
+std::string markedText(const TextRun& run) {
+    if (run.underlined >= run.text.size()) return escaped(run.text);
     const auto isSurrogate = [&](std::size_t at, unsigned mark) {
         return at < run.text.size() && (run.text[at] & 0xFC00U) == mark;
     };
     const std::size_t at = run.underlined;
     const std::size_t units = isSurrogate(at, 0xD800U) && isSurrogate(at + 1, 0xDC00U) ? 2 : 1;
-    const Single whole = textWidth(run.text, run.font);
-    const Single scale = whole > 0 ? run.width / whole : Single{1}; // the letters are stretched to the run's width
-    const Single em = run.font.size * TwipsPerPoint;
-    const Single thickness = std::max(std::floor(em / 14 / TwipsPerPixel), Single{1}) * TwipsPerPixel;
-    return {run.origin.x + textWidth(run.text.substr(0, at), run.font) * scale, run.origin.y + TwipsPerPixel,
-            textWidth(run.text.substr(at, units), run.font) * scale, thickness};
+    return escaped(run.text.substr(0, at)) + "<tspan text-decoration=\"underline\">" +
+           escaped(run.text.substr(at, units)) + "</tspan>" + escaped(run.text.substr(at + units));
+}
+
+/// The aligned end or middle of the run: it stays where it is in a viewer that does not keep to the run's width.
+void appendAnchor(std::string& out, const TextRun& run) {
+    const bool isMeasured = std::isfinite(run.width) && run.width > 0;
+    const Single reach = run.align == Alignment::Near || !isMeasured ? 0
+                         : run.align == Alignment::Centre            ? run.width / 2
+                                                                     : run.width;
+    appendAttribute(out, "x", run.origin.x + reach);
+    appendAttribute(out, "y", run.origin.y);
+    if (reach > 0) out += run.align == Alignment::Centre ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
+    if (!isMeasured) return;
+    appendAttribute(out, "textLength", run.width);
+    out += " lengthAdjust=\"spacingAndGlyphs\"";
 }
 
 /// Each colour's pixels as horizontal runs, one user unit to the pixel; every pixel belongs to exactly one
@@ -321,16 +332,10 @@ void SvgPainter::line(Point from, Point to, Rgb colour, Single width) {
 void SvgPainter::text(const TextRun& run) {
     if (run.text.empty()) return;
     out_ += "<text xml:space=\"preserve\"";
-    appendAttribute(out_, "x", run.origin.x);
-    appendAttribute(out_, "y", run.origin.y);
+    appendAnchor(out_, run);
     appendFont(out_, run.font);
     appendColour(out_, "fill", run.colour);
-    if (std::isfinite(run.width) && run.width > 0) {
-        appendAttribute(out_, "textLength", run.width);
-        out_ += " lengthAdjust=\"spacingAndGlyphs\"";
-    }
-    out_.append(">").append(escaped(run.text)).append("</text>");
-    if (run.underlined < run.text.size()) rectangle(accessKeyRule(run), {.fill = run.colour, .stroke = {}}, 0);
+    out_.append(">").append(markedText(run)).append("</text>");
 }
 
 void SvgPainter::bitmap(const Bitmap& picture, const Rectangle& area) {

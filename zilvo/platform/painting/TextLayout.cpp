@@ -71,6 +71,16 @@ Single offsetOf(Alignment alignment, Single room, Single taken) noexcept {
     return 0;
 }
 
+/// Where the lines begin. Of one that is higher than the room and centred, the capitals and the rule under an access
+/// key are what is seen.
+Single topOf(const CaptionLook& look, Single room, Single taken) noexcept {
+    if (look.down != Alignment::Centre || taken <= room || taken > lineHeight(look.font))
+        return offsetOf(look.down, room, taken);
+    constexpr Single rule = 2 * TwipsPerPixel;
+    const Single capitals = capHeight(look.font);
+    return offsetOf(Alignment::Centre, room, capitals + rule) + capitals - ascent(look.font);
+}
+
 struct Line {
     Piece piece;
     Point corner;
@@ -93,7 +103,7 @@ Layout layOut(const Painter& painter, const Rectangle& area, const CaptionLook& 
 
     const Single step = lineHeight(look.font);
     const Single height = step * static_cast<Single>(pieces.size());
-    const Single top = area.top + offsetOf(look.down, area.height, height);
+    const Single top = area.top + topOf(look, area.height, height);
     Layout layout;
     layout.lines.reserve(pieces.size());
     Single left = 0;
@@ -110,10 +120,10 @@ Layout layOut(const Painter& painter, const Rectangle& area, const CaptionLook& 
     return layout;
 }
 
-void paintLines(Painter& painter, const Layout& layout, const Caption& caption, const FontLook& font, Rgb colour,
+void paintLines(Painter& painter, const Layout& layout, const Caption& caption, const CaptionLook& look, Rgb colour,
                 Single shift) {
     const StringView text = caption.text;
-    const Single baseline = ascent(font);
+    const Single baseline = ascent(look.font);
     for (const Line& line : layout.lines) {
         const auto [begin, end] = line.piece;
         if (begin == end) continue;
@@ -121,7 +131,8 @@ void paintLines(Painter& painter, const Layout& layout, const Caption& caption, 
         painter.text({.text = text.substr(begin, end - begin),
                       .origin = {line.corner.x + shift, line.corner.y + baseline + shift},
                       .width = line.width,
-                      .font = font,
+                      .align = look.across,
+                      .font = look.font,
                       .colour = colour,
                       .underlined = marked ? caption.underlined - begin : String::npos});
     }
@@ -135,8 +146,8 @@ constexpr Colour GreyText{0x80000011};
 Rectangle paintCaption(Painter& painter, const Rectangle& area, const CaptionLook& look) {
     const Caption caption = captionOf(look.designed);
     const Layout layout = layOut(painter, area, look, caption.text);
-    if (look.greyed) paintLines(painter, layout, caption, look.font, rgbOf(EmbossLight), TwipsPerPixel);
-    paintLines(painter, layout, caption, look.font, look.greyed ? rgbOf(GreyText) : look.colour, 0);
+    if (look.greyed) paintLines(painter, layout, caption, look, rgbOf(EmbossLight), TwipsPerPixel);
+    paintLines(painter, layout, caption, look, look.greyed ? rgbOf(GreyText) : look.colour, 0);
     return layout.bounds;
 }
 

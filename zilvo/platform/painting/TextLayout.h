@@ -5,8 +5,6 @@
 
 namespace zilvo::platform {
 
-enum class Alignment : std::uint8_t { Near, Centre, Far };
-
 /// A caption to be laid out: `designed` may hold an access-key mark ("&OK").
 struct CaptionLook {
     StringView designed;
