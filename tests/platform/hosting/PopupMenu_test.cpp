@@ -84,7 +84,7 @@ TEST(PopUp, ThePointerWalksIntoASubmenu) {
     PopupMenu popup;
     auto& root = dynamic_cast<Menu&>(g.widget({u"mnuRoot"}));
     Menu* const first = &dynamic_cast<Menu&>(g.widget({u"mnuMorePick", 10}));
-    popup.open(root, corner);
+    popup.open(root, corner, {-30000, -30000, 60000, 60000});
     EXPECT_EQ(popup.highlighted(), nullptr);
     popup.pointerMove(itemAt(0));
     EXPECT_EQ(popup.highlighted(), &g.widget({u"mnuPick", 0}));
@@ -104,7 +104,7 @@ TEST(PopUp, ThePointerWalksIntoASubmenu) {
     EXPECT_EQ(popup.pointerUp(at), first);
     EXPECT_FALSE(popup.isOpen());
 
-    popup.open(root, corner); // and out of it again
+    popup.open(root, corner, {-30000, -30000, 60000, 60000}); // and out of it again
     popup.pointerMove(itemAt(4));
     popup.key(input::Key::Down);
     EXPECT_EQ(popup.highlighted(), first);

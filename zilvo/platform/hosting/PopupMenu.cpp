@@ -33,19 +33,25 @@ Menu* PopupMenu::highlighted() const noexcept {
     return panels_.empty() ? nullptr : panels_.back().highlighted;
 }
 
-void PopupMenu::open(Menu& root, Point corner) {
+void PopupMenu::open(Menu& root, Point corner, const Rectangle& room) {
     lastRoot_ = &root;
     pressed_ = false;
-    panels_.assign(1, panelFor(root, corner));
+    room_ = room;
+    panels_.assign(1, panelFor(root, {corner.x, corner.y, 0, 0}));
 }
 
-PopupMenu::Panel PopupMenu::panelFor(Menu& menu, Point corner) const {
-    Rectangle area{corner.x, corner.y, 0, 2 * Border};
+/// To the right of the area and down from its upper edge, or to the left and up from its lower one.
+PopupMenu::Panel PopupMenu::panelFor(Menu& menu, const Rectangle& beside) const {
+    Rectangle area{beside.right(), beside.top, 0, 2 * Border};
     for (const Menu* item : menu.items()) {
         const Single text = textWidth(captionOf(item->get_Caption()).text, MenuFont);
         area.width = std::max(area.width, text + CheckWidth + ArrowWidth + 2 * Border);
         area.height += heightOf(*item);
     }
+    const Single toTheLeft = beside.left - area.width;
+    const Single upwards = beside.bottom() - area.height;
+    if (area.right() > room_.right() && toTheLeft >= room_.left) area.left = toTheLeft;
+    if (area.bottom() > room_.bottom() && upwards >= room_.top) area.top = upwards;
     return {&menu, area};
 }
 
@@ -79,7 +85,7 @@ void PopupMenu::openSubmenu() {
     Menu* item = highlighted();
     if (!item || !item->opensSubmenu()) return;
     const Rectangle area = areaOf(panels_.back(), *item);
-    panels_.push_back(panelFor(*item, {area.right(), area.top - Border}));
+    panels_.push_back(panelFor(*item, {area.left, area.top - Border, area.width, area.height + 2 * Border}));
 }
 
 Menu* PopupMenu::choose() {

@@ -14,8 +14,9 @@ public:
     Menu* lastRoot() const noexcept { return lastRoot_; }
     Menu* highlighted() const noexcept;
 
-    /// Opens the root's items with their corner at the point, in place of what was open.
-    void open(Menu& root, Point corner);
+    /// Opens the root's items with their corner at the point, in place of what was open. What does not fit into the
+    /// room to the right or below opens to the left or above, if it fits there; submenus too.
+    void open(Menu& root, Point corner, const Rectangle& room);
     void close() noexcept { panels_.clear(); }
 
     /// Each gives the item that the user chose, the pop-up then being closed; null for none.
@@ -41,7 +42,7 @@ private:
         Menu* item;
     };
 
-    Panel panelFor(Menu& menu, Point corner) const;
+    Panel panelFor(Menu& menu, const Rectangle& beside) const;
     Rectangle areaOf(const Panel& panel, const Menu& item) const;
     /// The front-most panel at the point and its item there; `panel` is panels_.size() outside.
     Place placeAt(Point at) const;
@@ -52,6 +53,7 @@ private:
 
     std::vector<Panel> panels_;
     Menu* lastRoot_ = nullptr;
+    Rectangle room_;
     bool pressed_ = false;
 };
 
