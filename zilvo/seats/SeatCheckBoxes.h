@@ -54,7 +54,7 @@ private:
     static CheckBox::Design seatBox(Integer Index, const char16_t* Caption, Single Left, Single Top, Single Width,
                                     look::MarkSide Mark, Integer TabIndex) {
         return {.Name = u"checkSeatSelected", .Index = Index, .Left = Left, .Top = Top, .Width = Width, .Height = 195,
-                .Caption = Caption, .Mark = Mark, .Enabled = false, .TabIndex = TabIndex};
+                .Caption = Caption, .Mark = Mark, .Transparent = true, .Enabled = false, .TabIndex = TabIndex};
     }
     ControlArray<CheckBox, 10> checkSeatSelected{frameSeatSpread, {
         seatBox( 1, u"1",  1300,  360, 375, look::MarkSide::Right, 10),

@@ -67,7 +67,7 @@ private:
     static SSOption::Design seatOption(Integer Index, const char16_t* Caption, Single Left, Single Top, Single Width,
                                        look::MarkSide Mark, const char16_t* ToolTipText) {
         return {.Name = u"optSeatSelected", .Index = Index, .Left = Left, .Top = Top, .Width = Width, .Height = 180,
-                .Caption = Caption, .Mark = Mark, .Font = {.Name = u"Comic Sans MS", .Size = 9},
+                .Caption = Caption, .Mark = Mark, .Transparent = true, .Font = {.Name = u"Comic Sans MS", .Size = 9},
                 .TabIndex = Index, .ToolTipText = ToolTipText};
     }
     ControlArray<SSOption, 10> optSeatSelected{frameSeatSelector, {

@@ -2,6 +2,8 @@
 
 #include "zilvo/platform/values/Kinds.h"
 
+#include <cmath>
+
 namespace zilvo::platform {
 
 /// The designed resolution: 1440 twips and 96 pixels to the inch.
@@ -13,6 +15,11 @@ enum class ScaleMode : std::uint8_t { Twips, Pixels };
 
 constexpr Single twipsPerUnit(ScaleMode mode) noexcept {
     return mode == ScaleMode::Pixels ? TwipsPerPixel : Single{1};
+}
+
+/// Rounded to whole pixels of the designed resolution.
+inline Single wholePixels(Single twips) noexcept {
+    return std::round(twips / TwipsPerPixel) * TwipsPerPixel;
 }
 
 /// A point and an area in twips, measured from the top left corner of the surface or container they lie in.
@@ -37,6 +44,12 @@ struct Rectangle {
         const Single across = width - 2 * margin;
         const Single down = height - 2 * margin;
         return {left + margin, top + margin, across > 0 ? across : 0, down > 0 ? down : 0};
+    }
+    /// The nearest area whose edges lie between pixels of the designed resolution.
+    Rectangle onWholePixels() const noexcept {
+        const Single from = wholePixels(left);
+        const Single down = wholePixels(top);
+        return {from, down, wholePixels(right()) - from, wholePixels(bottom()) - down};
     }
 };
 

@@ -34,7 +34,7 @@ void CheckBox::paint(Painter& painter) const {
     const auto state = value_ == Checked  ? look::CheckState::Ticked
                        : value_ == Greyed ? look::CheckState::Greyed
                                           : look::CheckState::Clear;
-    look::check(painter, area(), look(), state);
+    look::check(painter, drawnArea(), look(), state);
 }
 
 } // namespace zilvo::platform

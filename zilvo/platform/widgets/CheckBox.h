@@ -19,6 +19,7 @@ public:
         const char16_t* Caption = u"";
         Integer Value = Unchecked;
         look::MarkSide Mark = look::MarkSide::Left;
+        bool Transparent = false; ///< no ground of its own: a neighbour that it overlaps shows
         Colour BackColor = colours::ButtonFace;
         Colour ForeColor = colours::ButtonText;
         FontDesign Font = {};

@@ -58,15 +58,23 @@ const ClassDescription& CommandButton::description() const noexcept {
 }
 
 void CommandButton::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
+    const Rectangle area = drawnArea();
     // A push button that has the keyboard takes the heavy frame from the default one: Enter presses it.
     const bool framed = isFocused() || (get_Default() && !anyHasFocus(surface()));
     look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), framed);
     Rectangle inner = area.inset(4 * TwipsPerPixel);
     if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};
-    paintCaption(painter, inner,
-                 {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()), .greyed = !get_Enabled()});
-    if (isFocused()) look::focus(painter, inner);
+    const Single bevel = (framed ? 3 : 2) * TwipsPerPixel;
+    Rectangle text;
+    {
+        const PaintedArea face(painter, area.inset(bevel));
+        text = paintCaption(
+            painter, {inner.left - bevel, inner.top - bevel, inner.width, inner.height},
+            {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()), .greyed = !get_Enabled()});
+    }
+    // A caption as wide as the face leaves the frame no place but the bevel.
+    const bool isFull = text.width > inner.width - 2 * TwipsPerPixel;
+    if (isFocused()) look::focus(painter, isFull ? area.inset(2 * TwipsPerPixel) : inner);
 }
 
 } // namespace zilvo::platform

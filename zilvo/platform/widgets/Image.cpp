@@ -16,7 +16,7 @@ const ClassDescription& Image::description() const noexcept {
 }
 
 void Image::paint(Painter& painter) const {
-    if (picture_) painter.bitmap(*picture_, {0, 0, bounds().width, bounds().height});
+    if (picture_) painter.bitmap(*picture_, drawnArea());
 }
 
 } // namespace zilvo::platform

@@ -8,7 +8,8 @@ Label::Label(Container& container, const Design& design)
     : CaptionedWidget(container, placementOf(design), appearanceOf(design)),
       align_(design.Align),
       transparent_(design.Transparent),
-      sunken_(design.Sunken) {}
+      sunken_(design.Sunken),
+      reach_(design.Reach) {}
 
 const ClassDescription& Label::description() const noexcept {
     static constexpr ClassDescription description{.name = u"Label", .members = {}, .base = &captionedMembers};
@@ -16,7 +17,8 @@ const ClassDescription& Label::description() const noexcept {
 }
 
 void Label::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
+    const Rectangle drawn = drawnArea();
+    const Rectangle area{reach_, reach_, drawn.width, drawn.height};
     if (!transparent_) painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
     if (sunken_) look::sunken(painter, area);
     paintCaption(painter, sunken_ ? area.inset(TwipsPerPixel) : area,

@@ -16,6 +16,7 @@ public:
         Alignment Align = Alignment::Near;
         bool Transparent = false; ///< no ground of its own: what lies behind shows
         bool Sunken = false;      ///< a sunken border of one pixel
+        Single Reach = 0;         ///< how far its text may be seen beyond its edges, twips
         Colour BackColor = colours::ButtonFace;
         Colour ForeColor = colours::ButtonText;
         FontDesign Font = {};
@@ -30,11 +31,13 @@ public:
 
     const ClassDescription& description() const noexcept override;
     void paint(Painter& painter) const override;
+    Rectangle paintedBounds() const noexcept override { return Widget::paintedBounds().inset(-reach_); }
 
 private:
     Alignment align_;
     bool transparent_;
     bool sunken_;
+    Single reach_;
 };
 
 } // namespace zilvo::platform

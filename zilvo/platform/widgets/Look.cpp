@@ -37,13 +37,20 @@ void disc(Painter& painter, const Rectangle& area, Rgb upperLeft, Rgb lowerRight
 }
 
 void captionBeside(Painter& painter, const Rectangle& area, const MarkedLook& look) {
-    const Rectangle caption = partsOf(area, look.side).caption;
-    const Rectangle text = paintCaption(painter, caption,
-                                        {.designed = look.caption,
-                                         .font = look.font,
-                                         .colour = look.foreColor,
-                                         .across = Alignment::Near,
-                                         .greyed = !look.enabled});
+    const MarkedParts parts = partsOf(area, look.side);
+    if (look.caption.empty()) {
+        if (look.focused) focus(painter, parts.mark.inset(3 * Pixel));
+        return;
+    }
+    const CaptionLook caption{.designed = look.caption,
+                              .font = look.font,
+                              .colour = look.foreColor,
+                              .across = look.side == MarkSide::Left ? Alignment::Near : Alignment::Far,
+                              .greyed = !look.enabled};
+    Rectangle room = parts.caption;
+    if (look.side == MarkSide::Left && measureCaption(painter, room, caption).width > room.width)
+        room = {room.left - 3 * Pixel, room.top, room.width + 3 * Pixel, room.height};
+    const Rectangle text = paintCaption(painter, room, caption);
     if (!look.focused) return;
     const Rectangle around = text.inset(-Pixel);
     const Single left = std::max(around.left, area.left);
@@ -116,16 +123,18 @@ void tick(Painter& painter, Point corner, Rgb colour) {
 }
 
 MarkedParts partsOf(const Rectangle& area, MarkSide side) noexcept {
-    const Single gap = 4 * Pixel;
-    const Single top = area.top + std::max(Single{0}, (area.height - MarkSize) / 2);
-    const Single rest = std::max(Single{0}, area.width - MarkSize - gap);
-    if (side == MarkSide::Left) return {{area.left, top}, {area.left + MarkSize + gap, area.top, rest, area.height}};
-    return {{area.right() - MarkSize, top}, {area.left, area.top, rest, area.height}};
+    const Single size = std::min(MarkSize, std::floor(area.height / Pixel) * Pixel);
+    const Single top = area.top + std::floor((area.height - size) / 2 / Pixel) * Pixel;
+    // A caption in front of its mark is close to it, and far from what stands in front of the caption.
+    const Single gap = side == MarkSide::Left ? 4 * Pixel : Pixel;
+    const Single rest = std::max(Single{0}, area.width - size - gap);
+    if (side == MarkSide::Left)
+        return {{area.left, top, size, size}, {area.left + size + gap, area.top, rest, area.height}};
+    return {{area.right() - size, top, size, size}, {area.left, area.top, rest, area.height}};
 }
 
 void option(Painter& painter, const Rectangle& area, const MarkedLook& look, bool selected) {
-    const Point corner = partsOf(area, look.side).mark;
-    const Rectangle mark{corner.x, corner.y, MarkSize, MarkSize};
+    const Rectangle mark = partsOf(area, look.side).mark;
     const Rgb ground = look.pressed || !look.enabled ? Face : White;
     disc(painter, mark, Shadow, White);
     disc(painter, mark.inset(Pixel), Black, Light);
@@ -136,13 +145,13 @@ void option(Painter& painter, const Rectangle& area, const MarkedLook& look, boo
 }
 
 void check(Painter& painter, const Rectangle& area, const MarkedLook& look, CheckState state) {
-    const Point corner = partsOf(area, look.side).mark;
-    const Rectangle square{corner.x, corner.y, MarkSize, MarkSize};
+    const Rectangle square = partsOf(area, look.side).mark;
     const bool greyed = look.pressed || !look.enabled || state == CheckState::Greyed;
     fill(painter, square, greyed ? Face : White);
     edges(painter, square, Shadow, White);
     edges(painter, square.inset(Pixel), Black, Light);
-    if (state != CheckState::Clear) tick(painter, corner, look.enabled && state == CheckState::Ticked ? Black : Shadow);
+    if (state != CheckState::Clear)
+        tick(painter, {square.left, square.top}, look.enabled && state == CheckState::Ticked ? Black : Shadow);
     captionBeside(painter, area, look);
 }
 

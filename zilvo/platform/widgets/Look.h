@@ -28,12 +28,12 @@ void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed,
 void dim(Painter& painter, const Rectangle& area, Rgb ground);
 /// A small triangle in the middle of the area.
 void arrow(Painter& painter, const Rectangle& area, bool up, bool greyed);
-/// The tick of a check box or a checked menu item, in a square of 13 pixels at `corner`.
+/// The tick of a check box or a checked menu item, in a square of 12 or 13 pixels at `corner`.
 void tick(Painter& painter, Point corner, Rgb colour);
 
 /// The parts of a check box or option button: its mark and what is left for its caption.
 struct MarkedParts {
-    Point mark; ///< corner of a square of 13 pixels
+    Rectangle mark; ///< a square of 13 pixels, or as high as the area
     Rectangle caption;
 };
 MarkedParts partsOf(const Rectangle& area, MarkSide side) noexcept;

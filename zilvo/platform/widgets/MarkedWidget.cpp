@@ -3,7 +3,7 @@
 namespace zilvo::platform {
 
 void MarkedWidget::paintGround(Painter& painter) const {
-    painter.rectangle(area(), {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    if (!transparent_) painter.rectangle(drawnArea(), {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
 }
 
 look::MarkedLook MarkedWidget::look() const noexcept {

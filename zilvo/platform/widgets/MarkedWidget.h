@@ -15,14 +15,16 @@ public:
 protected:
     template <class Design>
     MarkedWidget(Container& container, const Design& design)
-        : CaptionedWidget(container, placementOf(design), appearanceOf(design)), mark_(design.Mark) {}
+        : CaptionedWidget(container, placementOf(design), appearanceOf(design)), mark_(design.Mark) {
+        if constexpr (requires { design.Transparent; }) transparent_ = design.Transparent;
+    }
 
-    Rectangle area() const noexcept { return {0, 0, bounds().width, bounds().height}; }
     void paintGround(Painter& painter) const;
     look::MarkedLook look() const noexcept;
 
 private:
     look::MarkSide mark_;
+    bool transparent_ = false;
 };
 
 } // namespace zilvo::platform

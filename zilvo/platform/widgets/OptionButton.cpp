@@ -50,7 +50,7 @@ const ClassDescription& OptionButton::description() const noexcept {
 
 void OptionButton::paint(Painter& painter) const {
     paintGround(painter);
-    look::option(painter, area(), look(), get_Value());
+    look::option(painter, drawnArea(), look(), get_Value());
 }
 
 } // namespace zilvo::platform

@@ -35,7 +35,7 @@ const ClassDescription& SSCheck::description() const noexcept {
 
 void SSCheck::paint(Painter& painter) const {
     paintGround(painter);
-    look::check(painter, area(), look(), value_ ? look::CheckState::Ticked : look::CheckState::Clear);
+    look::check(painter, drawnArea(), look(), value_ ? look::CheckState::Ticked : look::CheckState::Clear);
 }
 
 } // namespace zilvo::platform

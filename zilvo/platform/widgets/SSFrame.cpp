@@ -13,7 +13,7 @@ const ClassDescription& SSFrame::description() const noexcept {
 }
 
 void SSFrame::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
+    const Rectangle area = drawnArea();
     painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
 
     // The border runs through the middle of the caption and leaves two pixels on either side of it.
@@ -28,7 +28,7 @@ void SSFrame::paint(Painter& painter) const {
                            .wraps = false};
     const Rectangle line{indent, 0, area.width - indent, lineHeight(font())};
     const Rectangle text = paintCaption(painter, line, look);
-    const Single top = caption().empty() ? 0 : lineHeight(font()) / 2;
+    const Single top = caption().empty() ? 0 : wholePixels(lineHeight(font()) / 2);
     const Single gapTo = caption().empty() ? indent - margin : text.right() + margin;
     look::etched(painter, {0, top, area.width, area.height - top}, indent - margin, gapTo);
 }

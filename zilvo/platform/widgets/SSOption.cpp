@@ -46,7 +46,7 @@ const ClassDescription& SSOption::description() const noexcept {
 
 void SSOption::paint(Painter& painter) const {
     paintGround(painter);
-    look::option(painter, area(), look(), get_Value());
+    look::option(painter, drawnArea(), look(), get_Value());
 }
 
 } // namespace zilvo::platform

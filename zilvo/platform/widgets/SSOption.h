@@ -15,6 +15,7 @@ public:
         const char16_t* Caption = u"";
         bool Value = false;
         look::MarkSide Mark = look::MarkSide::Left;
+        bool Transparent = false; ///< no ground of its own: a neighbour that it overlaps shows
         Colour BackColor = colours::ButtonFace;
         Colour ForeColor = colours::ButtonText;
         FontDesign Font = {};

@@ -19,15 +19,18 @@ const ClassDescription& SSPanel::description() const noexcept {
 }
 
 void SSPanel::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
+    const Rectangle area = drawnArea();
     painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
-    look::raised(painter, area);
     paintCaption(painter, area.inset(2 * TwipsPerPixel),
                  {.designed = caption(),
                   .font = font(),
                   .colour = rgbOf(get_ForeColor()),
                   .down = captionDown_,
                   .greyed = !get_Enabled()});
+}
+
+void SSPanel::paintEdge(Painter& painter) const {
+    look::raised(painter, drawnArea());
 }
 
 } // namespace zilvo::platform

@@ -37,6 +37,7 @@ public:
     bool isClickable() const noexcept override { return static_cast<bool>(mouseDown_); }
     void pointerDown(Integer button, Integer shift, Point at) override;
     void paint(Painter& painter) const override;
+    void paintEdge(Painter& painter) const override;
 
 private:
     Alignment captionDown_;

@@ -56,13 +56,17 @@ const ClassDescription& SSRibbon::description() const noexcept {
 }
 
 void SSRibbon::paint(Painter& painter) const {
-    const Rectangle area{0, 0, bounds().width, bounds().height};
+    const Rectangle area = drawnArea();
     const bool down = get_Value() || isPressed();
     look::buttonFace(painter, area, rgbOf(backColor_), down, outline_);
     if (const Bitmap* picture = down && pictureDown_ ? pictureDown_ : pictureUp_) {
         const Single width = static_cast<Single>(picture->width()) * TwipsPerPixel;
         const Single height = static_cast<Single>(picture->height()) * TwipsPerPixel;
-        painter.bitmap(*picture, {(area.width - width) / 2, (area.height - height) / 2, width, height});
+        const Rectangle inside = area.inset((outline_ ? 3 : 2) * TwipsPerPixel); // the bevel stays
+        const Single shift = down ? TwipsPerPixel : 0;
+        const PaintedArea shown(painter, inside);
+        painter.bitmap(*picture, {wholePixels((inside.width - width) / 2) + shift,
+                                  wholePixels((inside.height - height) / 2) + shift, width, height});
     }
     if (!get_Enabled()) look::dim(painter, area.inset(2 * TwipsPerPixel), rgbOf(backColor_));
     if (isFocused()) look::focus(painter, area.inset(3 * TwipsPerPixel));

@@ -41,7 +41,7 @@ const ClassDescription& Shape::description() const noexcept {
 
 void Shape::paint(Painter& painter) const {
     const Single strokeWidth = static_cast<Single>(borderWidth_) * TwipsPerPixel;
-    Rectangle area{0, 0, bounds().width, bounds().height};
+    Rectangle area = drawnArea();
     if (form_ == IsSquare || form_ == IsCircle || form_ == IsRoundedSquare) {
         const Single side = std::min(area.width, area.height);
         area = {(area.width - side) / 2, (area.height - side) / 2, side, side};

@@ -8,10 +8,13 @@ SpinButton::SpinButton(Container& container, const Design& design, SpinHandler s
     : Widget(container, placementOf(design)), spinUp_(spinUp), spinDown_(spinDown), backColor_(design.BackColor) {}
 
 Rectangle SpinButton::half(Spin way) const noexcept {
-    const Single width = bounds().width;
-    const Single height = bounds().height;
-    if (isSideBySide()) return {way == Spin::Up ? width / 2 : 0, 0, width / 2, height};
-    return {0, way == Spin::Up ? 0 : height / 2, width, height / 2};
+    const auto [left, top, width, height] = drawnArea();
+    if (isSideBySide()) {
+        const Single down = wholePixels(width / 2);
+        return way == Spin::Up ? Rectangle{down, 0, width - down, height} : Rectangle{0, 0, down, height};
+    }
+    const Single up = wholePixels(height / 2);
+    return way == Spin::Up ? Rectangle{0, 0, width, up} : Rectangle{0, up, width, height - up};
 }
 
 void SpinButton::pointerDown(Integer button, Integer /*shift*/, Point at) {
@@ -61,7 +64,8 @@ void SpinButton::paint(Painter& painter) const {
         // Mounted above or below another widget, a wide button may show its upper half only: the arrows stay there.
         const Single shown = isSideBySide() ? area.height / 2 : area.height;
         look::arrow(painter, {area.left, area.top, area.width, shown}, way == Spin::Up, !get_Enabled());
-        if (isFocused()) look::focus(painter, area.inset(3 * TwipsPerPixel));
+        if (isFocused())
+            look::focus(painter, Rectangle{area.left, area.top, area.width, shown}.inset(3 * TwipsPerPixel));
     }
 }
 

@@ -62,12 +62,13 @@ void Surface::paintChildren(Painter& painter, const Container& container) {
     std::stable_sort(backToFront.begin(), backToFront.end(),
                      [](const Widget* one, const Widget* other) { return one->zOrder() < other->zOrder(); });
     for (Widget* child : backToFront) {
-        const PaintedArea area(painter, child->bounds());
+        const PaintedArea area(painter, child->paintedBounds());
         child->paint(painter);
         if (Surface* inner = child->embeddedSurface())
             inner->paint(painter);
         else if (const Container* children = childrenOf(*child))
             paintChildren(painter, *children);
+        child->paintEdge(painter);
     }
 }
 

@@ -162,16 +162,26 @@ public:
     virtual bool arrowKey(Direction /*direction*/) { return false; }
     /// Whether arrow keys move among its like in the container.
     virtual bool isInGroupWith(const Widget& /*other*/) const noexcept { return false; }
-    void setFocused(bool focused) noexcept;
+    /// Whoever moves the focus has the view painted again.
+    void setFocused(bool focused) noexcept { focused_ = focused; }
     void setPressed(bool pressed) noexcept;
     /// One that was disabled or hidden from code no longer shows the focus; the keyboard goes on with the next input.
     bool isFocused() const noexcept { return focused_ && acceptsInput(); }
     bool isPressed() const noexcept { return pressed_; }
 
-    /// Draws the widget into its own area, without its children. Never changes state.
+    /// Draws the widget into the area that it paints, without its children. Never changes state.
     virtual void paint(Painter& painter) const = 0;
+    /// What of it is drawn over its children.
+    virtual void paintEdge(Painter& /*painter*/) const {}
+    /// The area that it paints, in the container; nothing of it is seen outside.
+    virtual Rectangle paintedBounds() const noexcept { return bounds_.onWholePixels(); }
 
 protected:
+    /// Its place as it is drawn, from its own corner: edges lie on whole pixels.
+    Rectangle drawnArea() const noexcept {
+        const Rectangle drawn = bounds_.onWholePixels();
+        return {0, 0, drawn.width, drawn.height};
+    }
     /// The view is out of date.
     void changed() const noexcept;
     /// For a widget whose inside follows its size: runs after its width or height was set.
