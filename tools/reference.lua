@@ -203,12 +203,51 @@ local function addSettings(page, class)
     end
 end
 
+-- Pictures of a class in use, besides the one of a fresh instance: what they show, and how it comes about.
+
+local function mounted(handedness)
+    return function(counter)
+        counter.ControlHandedness = handedness
+        counter.CounterValue = 7
+    end
+end
+
+local scenes = {
+    SitDownButton = { { "with its selector open", function(sit) sit:widget("cmdSitDown"):click() end, { bag = {} } } },
+    DeckButtons = {
+        { "narrow", function(decks) decks.ObjectWidth = NarrowObject end },
+        { "with its menu", function(decks)
+            decks:press(3900, 840, 2)
+            for _, key in ipairs { "Down", "Right", "Down", "Down" } do decks:keydown(key) end
+        end },
+    },
+    SpinCounter = {
+        { "left-hand", mounted(LeftHandSpinCounter) },
+        { "right-hand", mounted(RighHandSpinCounter) },
+        { "top mount", mounted(TopMountSpinCounter) },
+        { "bottom mount", mounted(BottomMountSpinCounter) },
+    },
+}
+
+local function addScenes(page, className)
+    for _, scene in ipairs(scenes[className] or {}) do
+        local shows, happens, options = table.unpack(scene)
+        local name = className .. "-" .. shows:gsub("with its ", ""):gsub(" ", "-")
+        local control = zilvo.create(className, options)
+        happens(control)
+        control:snapshot(string.format("%s/%s.svg", output, name))
+        page:paragraph("%s:", (shows:gsub("^%l", string.upper)))
+        page:paragraph("![%s, %s](%s.svg)", className, shows, name)
+    end
+end
+
 local function writeClass(class)
     local isControl = class.events ~= nil
     local page = newPage(class.name)
     page:paragraph("[All classes](README.md)")
     addOverview(page, class)
     if isControl then page:paragraph("![%s](%s.svg)", class.name, class.name) end
+    addScenes(page, class.name)
     addIdentity(page, class)
     if isControl then addIdentityOfControl(page, class) end
     addMembers(page, class)

@@ -18,7 +18,10 @@ public:
     explicit SeatCheckBoxes(ComponentModule& module);
 
     /// Element k says whether seat k is free; the upper bound is the number of seats. Element 0 is never read.
-    /// The boxes of these seats are shown and unticked, a ticked one with its event.
+    /// The boxes of these seats are shown and unticked, a ticked one with its event. A table of eight to ten seats has
+    /// one drawback: a loaded control is laid out for seven, so that boxes 9 and 10 are shown and enabled below the
+    /// frame's edge, where neither the player's pointer nor his eye reaches them; Tab does, and a new control, which
+    /// keeps the taller frame, shows all ten. An array with more elements than ten fails with MissingElement.
     void AvailableSeatsAre(BooleanArray& TableSeat);
     /// Places the marker over the player's own seat; a value that is no seat hides it.
     void MySeatIS(SeatSpreadPossibilities MySeatISValue);

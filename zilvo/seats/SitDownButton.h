@@ -18,7 +18,9 @@ public:
     static const ObjectDescription Description;
     explicit SitDownButton(ComponentModule& module);
 
-    /// Element k says whether seat k is free; the upper bound is the number of seats. Element 0 is never read.
+    /// Element k says whether seat k is free; the upper bound is the number of seats. Element 0 is never read. A table
+    /// of eight to ten seats needs a new control: a loaded one hides seats 8 to 10, enabled or not. An array with more
+    /// elements than ten fails with MissingElement.
     void AvailableSeatsAre(BooleanArray& TableSeat);
     /// The number of seats: 7 at first, then as AvailableSeatsAre says. Setting it neither shows nor hides a seat.
     SeatSelectionPossibilities get_NumberOfSeatsAllowed();
