@@ -164,8 +164,10 @@ private:
         for (Widget& widget : surface) {
             const auto label = labelOf(widget, owner);
             add({label, kindOf(widget), &widget, false, {}, {}});
-            if (const Surface* inner = widget.embeddedSurface()) {
+            if (Surface* inner = widget.embeddedSurface()) {
                 add({label, {}, widget.embeddedMembers(), true, {}, {}});
+                if (auto* members = dynamic_cast<Described*>(inner))
+                    add({label + ".surface", {}, members, false, {}, {}});
                 addWidgets(*inner, label + ".");
             }
         }
@@ -176,7 +178,7 @@ Observer::Observer() = default;
 Observer::~Observer() = default;
 
 Observer::Watch Observer::created(Object& object) {
-    lookAtAll();
+    look();
     const auto className = toUtf8(object.description().name);
     Known& known = known_[className];
     const auto name = className + (known.created++ > 0 ? " " + std::to_string(known.created) : "");
@@ -233,25 +235,25 @@ void Observer::viewChanged(const Object& object) {
 }
 
 void Observer::note(const Object& object, const std::string& line) {
-    lookAtAll();
+    look();
     const Watched* watched = find(object);
     write((watched ? prefixOf(*watched) : "") + line);
 }
 
 void Observer::note(const std::string& line) {
-    lookAtAll();
+    look();
     write(line);
 }
 
 Observer::Handling::~Handling() {
     if (!observer_) return;
-    observer_->lookAtAll();
+    observer_->look();
     --observer_->depth_;
     observer_->open_.clear();
 }
 
 std::vector<std::string> Observer::taken() {
-    lookAtAll();
+    look();
     open_.clear();
     return std::exchange(lines_, {});
 }
@@ -277,7 +279,7 @@ void Observer::look(Watched& watched, Members members) {
     looking_ = false;
 }
 
-void Observer::lookAtAll() {
+void Observer::look() {
     for (const auto& watched : watched_)
         look(*watched, Members::All);
 }

@@ -34,6 +34,8 @@ public:
     /// Watches the host's extender of the object that was created last, too.
     void watchExtender(platform::Described& extender);
 
+    /// Looks at all objects.
+    void look();
     /// Something on the object's surface has changed: its widgets are looked at, so that an order of steps shows.
     void viewChanged(const platform::Object& object);
     /// All objects are looked at, then the line is written, as one of the object's.
@@ -71,7 +73,6 @@ private:
     void forget(const platform::Object& object) noexcept;
     Watched* find(const platform::Object& object) noexcept;
     void look(Watched& watched, Members members);
-    void lookAtAll();
     std::string prefixOf(const Watched& watched) const;
     void write(const std::string& line);
     void writeChange(const std::string& label, const std::string& change);
@@ -79,7 +80,7 @@ private:
     void writeDifferences(const Watched& watched, const Part& part, const std::vector<std::string>& before);
 
     std::vector<std::unique_ptr<Watched>> watched_; ///< in the order of their creation
-    std::string newest_; ///< the name of the object that was created last, alive or not
+    std::string newest_;                            ///< the name of the object that was created last, alive or not
     std::map<std::string, Known> known_;
     std::vector<std::string> lines_;
     std::string open_; ///< the label of the last line while it can take more changes

@@ -318,6 +318,16 @@ void readOptions(lua_State* L, int index, Options& options) {
     });
 }
 
+/// What happened before the step that fails is observed while the control is still there.
+void open(ScriptedControl& host, const Options& options, const Session& session) {
+    try {
+        host.open(options.bag ? &*options.bag : nullptr, options.width, options.height);
+    } catch (const std::exception&) {
+        if (session.observer) session.observer->look();
+        throw;
+    }
+}
+
 } // namespace
 
 int createObject(lua_State* L) {
@@ -334,7 +344,7 @@ int createObject(lua_State* L) {
         control.host = std::make_unique<ScriptedControl>(control.object, session);
         for (const auto& [name, value] : options.ambient)
             setAmbient(*control.host, CreatingAmbient, name, value);
-        control.host->open(options.bag ? &*options.bag : nullptr, options.width, options.height);
+        open(*control.host, options, session);
     } else if (!lua_isnil(L, 2)) {
         throw Failure(Status::NoInterface, control.className() + " is no control and takes no options");
     }

@@ -124,6 +124,7 @@ int callMember(lua_State* L, Object& object, const MemberDescription& member, Ac
 
     Variant result;
     ErrorInfo error;
+    const std::vector<Variant> given = arguments;
     const Status status = object.Invoke(member.id, how, arguments, &result, &error);
     for (std::size_t i = 0; fits && i < arguments.size(); ++i)
         if (declared[i].byReference) writeBack(L, placeOf(i), arguments[i]);
@@ -135,8 +136,8 @@ int callMember(lua_State* L, Object& object, const MemberDescription& member, Ac
     if (how != Access::Method) return lua_gettop(L) - before;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (!declared[i].byReference) continue;
-        if (arguments[i].findArray())
-            lua_pushvalue(L, placeOf(i)); // the very table or array that was passed
+        if (arguments[i].findArray() || equalByValue(arguments[i], given[i]))
+            lua_pushvalue(L, placeOf(i)); // the very table, array or value that was passed
         else
             pushVariant(L, arguments[i]);
     }

@@ -44,6 +44,7 @@ bool CommandButton::get_Cancel() const noexcept {
 void CommandButton::put_Cancel(bool newCancel) {
     if (newCancel == get_Cancel()) return;
     surface().cancelButton = newCancel ? this : nullptr;
+    changed();
 }
 
 void CommandButton::userClick() {

@@ -109,6 +109,7 @@ void Widget::enable(bool newEnabled) {
 
 void Widget::put_ToolTipText(StringView newToolTipText) {
     toolTipText_.set(newToolTipText);
+    changed();
 }
 
 void Widget::put_TabIndex(Integer newTabIndex) {
