@@ -1,4 +1,4 @@
--- What fails, how it fails, and that everything goes on working after it.
+-- What a script finds by which names, when its handlers run, what fails and how, and that all goes on after it.
 
 local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
 local equal, fails = expect.equal, expect.fails
@@ -8,6 +8,81 @@ local here = arg[0]:match("[^/]*$")
 local function line() return debug.getinfo(2, "l").currentline end
 
 local c = zilvo.create("ssOKCancel")
+
+-- Names of classes, members, events and widgets, in any case; an object is equal to itself only.
+local class
+for _, each in ipairs(zilvo.describe().classes) do
+    if each.name == "ssOKCancel" then class = each end
+end
+for _, name in ipairs { class.progId, class.classId, class.classId:lower(), "SSOKCANCEL" } do
+    equal(zilvo.create(name).cancel, true, "Cancel of an instance of " .. name)
+end
+local push = c:widget("CMDOK")
+assert(push == c:widget("cmdok") and push ~= c:widget("cmdCancel") and push.font == c:widget("cmdOK").Font)
+assert(c.surface == c.surface and c.surface ~= c.extender)
+c.cancel = true
+c:widget("cmdCancel").Caption = "Zur\u{fc}ck"
+equal(c:widget("cmdCancel").caption, "Zur\u{fc}ck")
+equal(table.concat(c.changes, " "), "Cancel")
+assert(c.changes ~= c.changes, "each reading gives a table of its own")
+local placed = zilvo.create("ssOKCancel", { width = 3000, height = 1, ambient = { ForeColor = 7, UserMode = false } })
+placed.extender.height = 750
+equal(placed.surface.Width + placed.surface.Height, 3750)
+equal(placed.ambient.ForeColor, 7)
+equal(placed.ambient.UserMode, false)
+
+-- Handlers that disconnect, attach, call back and let go of their control while the event is raised.
+do
+    local log = {}
+    local control = zilvo.create("ssOKCancel")
+    local first
+    first = control:on("cancelwasclicked", function()
+        log[#log + 1] = "first"
+        first:disconnect()
+        first:disconnect()
+        control:on("CancelWasClicked", function() log[#log + 1] = "late" end)
+    end)
+    control:on("CancelWasClicked", function() log[#log + 1] = "second" end)
+    control:key(27)
+    collectgarbage() -- letting go of a connection keeps the handler
+    control:key(27)
+    equal(table.concat(log, " "), "first second second late")
+    control:on("OKWasClicked", function()
+        control:key(27)
+        control = nil
+        collectgarbage()
+    end)
+    control:key(13)
+    equal(table.concat(log, " ", 5), "second late")
+end
+
+-- In a coroutine, the handler runs where the call was made.
+do
+    local wanted, thread
+    placed:on("OKWasClicked", function() thread = coroutine.running() end)
+    coroutine.wrap(function()
+        wanted = coroutine.running()
+        placed:key(13)
+    end)()
+    equal(thread, wanted)
+end
+
+-- Values of a kind, and arrays.
+local value = zilvo.Integer("12")
+equal(value.kind .. value.value, "Integer12")
+assert(value == zilvo.Integer(12) and value ~= zilvo.Integer(13) and value ~= zilvo.Long(12))
+equal(tostring(zilvo.Long(7)), "7 (Long)")
+equal(zilvo.Boolean(5).value, true)
+equal(zilvo.String(true).value, "True")
+equal(zilvo.Long(2147483647.0).value, 2147483647)
+equal(math.type(zilvo.Single(3000000000).value), "float")
+c.OKToolTipText = zilvo.Long(42)
+equal(c.OKToolTipText, "42")
+local array = zilvo.array(3, { true, false })
+array[4] = array[3]
+local keys = {}
+for key, each in pairs(array) do keys[#keys + 1] = key .. tostring(each) end
+equal(table.concat(keys, " ") .. #array .. array.lower .. array.upper, "3true 4true234")
 
 -- Names that do not exist.
 fails("class not available", function() zilvo.create("ssMaybe") end, "ssMaybe")
@@ -68,7 +143,6 @@ fails("type mismatch", function() zilvo.create("ssOKCancel", "new") end)
 fails("type mismatch", function() zilvo.create() end, "nil")
 fails("type mismatch", function() c.widget("cmdOK") end, ":")
 fails("type mismatch", function() c:on("OKWasClicked", {}) end, "function")
-equal(zilvo.create("ssOKCancel", { bag = { Default = 0 } }).Default, false, "a number read as a Boolean")
 
 -- Calls that do not fit.
 fails("argument count", function() c:SetDefaultDefaults(1) end, "ssOKCancel.SetDefaultDefaults")
@@ -148,7 +222,13 @@ collectgarbage()
 equal(met[1], false)
 equal(met[2].name, "unexpected call")
 
-c, nested, careful, yielding, endless, direct = nil, nil, nil, nil, nil, nil
+-- Everything that was made goes, cycles through handlers included.
+for _ = 1, 2 do
+    local control = zilvo.create("ssOKCancel")
+    local button = control:widget("cmdOK")
+    control:on("OKWasClicked", function() return control, button end)
+end
+c, push, placed, nested, careful, yielding, endless, direct = nil, nil, nil, nil, nil, nil, nil, nil
 collectgarbage()
 collectgarbage()
 equal(zilvo.alive, 0, "living objects")

@@ -5,6 +5,7 @@ local spread = zilvo.create("SpreadSeatButtons", { ambient = { BackColor = 0x001
 --> surface: BackColor 0x8000000F, ForeColor 0x80000008, Width 1830, Height 2775, ScaleWidth 1830, ScaleHeight 2775
 --> SpreadSeatBoxes: SeatCheckBoxes, Top 915, Width 1815, Height 2385, TabIndex 2
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat7WasSelected
+--> SpreadSeatBoxes.surface: BackColor 0x8000000F, ForeColor 0x80000008, Width 1815, Height 2385, ScaleWidth 1815, ScaleHeight 2385
 --> SpreadSeatBoxes.buttonSeatOwner: OptionButton, Value True, Caption "?", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 8.25 bold", Left 720, Top 480, Width 380, Height 240, Visible False, TabIndex 11
 --> SpreadSeatBoxes.frameSeatSpread: Threed.SSFrame, Caption "Spread To", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 9.75", Width 1780, Height 1400
 --> SpreadSeatBoxes.checkSeatSelected(1): CheckBox in frameSeatSpread, Caption "1", BackColor 0x8000000F, ForeColor 0x80000012, Font "MS Sans Serif 8.25", Left 1300, Top 360, Width 375, Height 195, Enabled False, TabIndex 10

@@ -7,6 +7,7 @@ local panel = zilvo.create("paneledSeatBoxes")
 --> commandDoneButton: CommandButton in panelSpreadTO, Caption "Done", BackColor 0x8000000F, ForeColor 0x80000012, Font "MS Sans Serif 8.25", Left 700, Top 480, Width 735, Height 255, TabIndex 2
 --> SpreadSeatBoxes: SeatCheckBoxes in panelSpreadTO, Left 150, Top 120, Width 1800, Height 2385, TabIndex 1
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat7WasSelected
+--> SpreadSeatBoxes.surface: BackColor 0x8000000F, ForeColor 0x80000008, Width 1800, Height 2385, ScaleWidth 1800, ScaleHeight 2385
 --> SpreadSeatBoxes.buttonSeatOwner: OptionButton, Value True, Caption "?", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 8.25 bold", Left 720, Top 480, Width 380, Height 240, Visible False, TabIndex 11
 --> SpreadSeatBoxes.frameSeatSpread: Threed.SSFrame, Caption "Spread To", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 9.75", Width 1780, Height 1400
 --> SpreadSeatBoxes.checkSeatSelected(1): CheckBox in frameSeatSpread, Caption "1", BackColor 0x8000000F, ForeColor 0x80000012, Font "MS Sans Serif 8.25", Left 1300, Top 360, Width 375, Height 195, Enabled False, TabIndex 10
