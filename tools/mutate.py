@@ -41,6 +41,7 @@ cmake_language(DEFER CALL precompile)
 """
 # Tests that are not run again or try what the console host makes of faults of its own.
 NOT_RUN = re.compile(r"transcript\.|transcripts$|validate$")
+SLOW = "RegistrationTest.*:Runtime.*"  # of the unit tests: whole processes and files
 LONGEST = 600  # seconds for a build or for the slow tests together
 NOT_BUILT, SAME, SURVIVED = "does not build", "changes nothing that is built", "survived"
 
@@ -148,7 +149,8 @@ class Worker:
         # The console host of the unchanged tree plays the transcripts first: it is long in building where a header has
         # changed, and most faults in headers show without.
         self.stages = [("transcripts", ["bin/libzilvo-platform.so", COMPONENT]), ("transcripts", [GALLERY]),
-                       ("unit tests", ["bin/zilvo-tests"]), ("transcripts", ["bin/zilvo"]), ("others", products)]
+                       ("docs", [COMPONENT]), ("unit tests", ["bin/zilvo-tests"]), ("transcripts", ["bin/zilvo"]),
+                       ("others", products)]
         for who, products in self.stages:
             started = time.monotonic()
             noticed = self.test(who, products)
@@ -165,8 +167,11 @@ class Worker:
             own = [script for script in scripts if pathlib.Path(script).stem == pathlib.Path(file).stem]
             for played in filter(None, (own, scripts)):
                 yield ["bin/zilvo", "--component", component, "transcript", *played]
+        elif who == "docs":
+            yield ["ctest", "-R", "^docs$"]  # the pictures of all controls
         elif who == "unit tests":
-            yield ["bin/zilvo-tests", "--gtest_brief=1", "--gtest_fail_fast"]
+            for chosen in (f"-{SLOW}", SLOW):
+                yield ["bin/zilvo-tests", "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_filter={chosen}"]
         else:
             for is_slow in (False, True):
                 names = [re.escape(name) for name in self.others if name.startswith("validate") == is_slow]
