@@ -29,7 +29,7 @@ void SSFrame::paint(Painter& painter) const {
     const Rectangle line{indent, 0, area.width - indent, lineHeight(font())};
     const Rectangle text = paintCaption(painter, line, look);
     const Single top = caption().empty() ? 0 : wholePixels(lineHeight(font()) / 2);
-    const Single gapTo = caption().empty() ? indent - margin : text.right() + margin;
+    const Single gapTo = caption().empty() ? indent - margin : wholePixels(text.right()) + margin;
     look::etched(painter, {0, top, area.width, area.height - top}, indent - margin, gapTo);
 }
 
