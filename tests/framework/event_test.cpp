@@ -115,27 +115,6 @@ TEST(Events, RaisingAgainInsideAHandler) {
     EXPECT_EQ(seen, (std::vector<Long>{1, 2, 3}));
 }
 
-TEST(Events, AHandlerMayReleaseTheLastReference) {
-    const std::size_t before = libraryModule().liveObjects();
-    auto raiser = makeRaiser();
-    Raiser* const pointer = raiser.get();
-    std::size_t liveInside = 0;
-    int later = 0;
-    auto connection = pointer->Changed.attach([&](Long&) {
-        raiser = nullptr;
-        liveInside = libraryModule().liveObjects();
-    });
-    auto second = pointer->Changed.attach([&](Long&) { ++later; });
-    Long value = 0;
-    pointer->Changed.raise(value);
-    EXPECT_EQ(liveInside, before + 1);
-    EXPECT_EQ(later, 1);
-    EXPECT_EQ(libraryModule().liveObjects(), before);
-    connection.disconnect(); // after the control: safe, and only this frees the module
-    second.disconnect();
-    EXPECT_EQ(libraryModule().canUnload(), before == 0);
-}
-
 TEST(Events, AHandlerThatHoldsTheControlAndItsOwnConnection) {
     const std::size_t before = libraryModule().liveObjects();
     for (const bool inside : {false, true}) {

@@ -62,18 +62,6 @@ Ref<Logger> makeLogger() {
 
 } // namespace
 
-TEST(Lifecycle, HandlersRunInOrderForNewAndForLoaded) {
-    const MemoryPropertyBag settings;
-    for (const bool loaded : {false, true}) {
-        const auto control = makeLogger();
-        ControlHost host(control);
-        host.open(loaded ? &settings : nullptr, 1500, 300);
-        host.setAmbient(u"backcolor", Long{0});
-        EXPECT_EQ(control->log, std::string("Initialize ") + (loaded ? "ReadProperties" : "InitProperties") +
-                                    " Resize AmbientChanged(BackColor) ");
-    }
-}
-
 TEST(Lifecycle, IllegalAndRepeatedTransitionsChangeNothing) {
     const auto control = makeLogger();
     HostedControl& hosted = *control;
@@ -200,28 +188,6 @@ TEST(Surface, WithoutASiteDefaultsAnswerAndNothingIsNotified) {
     surface.PropertyChanged(u"Anything");
     surface.Beep();
     EXPECT_EQ(control->log, "Initialize ");
-}
-
-TEST(Hosting, AHandlerMayCloseTheHostInsideAnyCall) {
-    struct Way {
-        const char* name;
-        InputEvent event;
-    };
-    for (const Way& way : {Way{"key", input::KeyTyped{13}}, Way{"cancel", input::KeyTyped{27}}}) {
-        auto host = std::make_unique<ControlHost>(create<ssOKCancel>());
-        host->open();
-        int heard = 0;
-        const auto close = [&](std::span<Variant>) {
-            ++heard;
-            host.reset();
-        };
-        host->on(u"OKWasClicked", close);
-        host->on(u"CancelWasClicked", close);
-        host->input(way.event);
-        EXPECT_EQ(heard, 1) << way.name;
-        EXPECT_EQ(host, nullptr);
-    }
-    EXPECT_EQ(libraryModule().liveObjects(), 0U);
 }
 
 } // namespace zilvo

@@ -1,9 +1,24 @@
 -- What a script finds by which names, when its handlers run, what fails and how, and that all goes on after it.
 
-local expect = dofile(arg[0]:match("^(.-)[^/]*$") .. "../support/expect.lua")
-local equal, fails = expect.equal, expect.fails
-
 local here = arg[0]:match("[^/]*$")
+
+local function equal(got, expected, what)
+    if got == expected then return end
+    error(string.format("%s: expected %s, got %s", what or "value", tostring(expected), tostring(got)), 2)
+end
+
+-- Runs `body`, which must fail in the script with a failure of that name whose message has all the parts.
+local function fails(name, body, ...)
+    local done, failure = pcall(body)
+    if done then error("no failure, but " .. name .. " was expected", 2) end
+    if type(failure) ~= "table" then error("not a failure: " .. tostring(failure), 2) end
+    equal(failure.name, name, failure.message)
+    assert(math.type(failure.status) == "integer" and failure.status >= 0x80000000 and failure.status < 0x100000000)
+    for _, part in ipairs { ... } do assert(failure.message:find(part, 1, true), failure.message) end
+    assert(failure.where:find(here .. ":%d+$"), failure.where)
+    equal(tostring(failure), failure.where .. ": " .. failure.message)
+    return failure
+end
 
 local function line() return debug.getinfo(2, "l").currentline end
 

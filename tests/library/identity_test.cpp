@@ -1,8 +1,6 @@
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/ComponentRuntime.h"
-#include "zilvo/platform/component/ControlHost.h"
 
-#include <algorithm>
 #include <bit>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -76,62 +74,6 @@ std::string singleBlanks(const std::string& line) {
     return text;
 }
 
-/// Something of the kind that a member of the library accepts.
-Variant sampleOf(const Type& type) {
-    switch (type.kind) {
-    case Kind::Boolean:
-        return true;
-    case Kind::Integer:
-        return Integer{4};
-    case Kind::Long:
-        return Long{2};
-    case Kind::Single:
-        return Single{30};
-    case Kind::String:
-        return u"Q";
-    case Kind::Font:
-        return std::make_shared<StdFont>(FontDesign{.Name = u"Arial"});
-    case Kind::BooleanArray:
-        return BooleanArray(1, {true, false, true, true, false, true, true});
-    default:
-        return {};
-    }
-}
-
-/// A live control, or an object that is no control.
-struct Instance {
-    explicit Instance(const LoadedComponent& component, StringView className) : object(component.create(className)) {
-        if (!object->hostedControl()) return;
-        host = std::make_unique<ControlHost>(object);
-        host->open();
-    }
-    Ref<Object> object;
-    std::unique_ptr<ControlHost> host;
-};
-
-/// What a call gives: its status, its result and what it leaves in its arguments.
-struct Outcome {
-    Status status = Status::Ok;
-    Variant result;
-    std::vector<Variant> arguments;
-
-    friend bool operator==(const Outcome& one, const Outcome& other) {
-        return one.status == other.status && equalByValue(one.result, other.result) &&
-               std::ranges::equal(one.arguments, other.arguments, equalByValue);
-    }
-};
-
-/// By id or by name.
-template <class Which>
-Outcome outcomeOf(Object& object, const Which& which, const MemberDescription& member, Access how) {
-    Outcome outcome;
-    if (how != Access::Get)
-        for (const ArgumentDescription& argument : member.arguments())
-            outcome.arguments.push_back(sampleOf(argument.type));
-    outcome.status = object.Invoke(which, how, outcome.arguments, &outcome.result);
-    return outcome;
-}
-
 } // namespace
 
 TEST(Identity, IsWhatHostsWereCompiledAgainst) {
@@ -147,28 +89,6 @@ TEST(Identity, IsWhatHostsWereCompiledAgainst) {
         ASSERT_EQ(expected, got) << "identity.txt:" << number;
     }
     ASSERT_TRUE(next == lines.end()) << "identity.txt lacks " << *next;
-}
-
-TEST(PublishedMembers, AreReachedByIdAndGiveWhatTheNameGives) {
-    const LoadedComponent component(COMPONENT_FILE);
-    for (const ClassEntry& entry : component.description().classes)
-        for (const MemberDescription& member : entry.description.members)
-            for (const Access how : {Access::Get, Access::Put, Access::PutReference, Access::Method}) {
-                if (!member.accessor(how)) continue;
-                SCOPED_TRACE(toUtf8(entry.identity.name) + "." + toUtf8(member.name) + ": " + nameOf(how));
-                const Instance calledById(component, entry.identity.name);
-                const Instance calledByName(component, entry.identity.name);
-                const Outcome byId = outcomeOf(*calledById.object, member.id, member, how);
-                EXPECT_EQ(byId.status, Status::Ok);
-                EXPECT_EQ(byId, outcomeOf(*calledByName.object, member.name, member, how));
-                EXPECT_EQ(byId.result.kind(),
-                          how == Access::Put || how == Access::PutReference ? Kind::Empty : member.type.kind);
-                if (member.accessor(Access::Get)) {
-                    EXPECT_EQ(outcomeOf(*calledById.object, member.id, member, Access::Get),
-                              outcomeOf(*calledByName.object, member.name, member, Access::Get))
-                        << "afterwards";
-                }
-            }
 }
 
 } // namespace zilvo

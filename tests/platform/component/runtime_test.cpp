@@ -31,25 +31,6 @@ bool isInProcess(const std::filesystem::path& file) {
 
 } // namespace
 
-TEST(Runtime, CreatesByNameProgIdAndClassId) {
-    const LoadedComponent component(COMPONENT_FILE);
-    for (const ClassEntry& entry : component.description().classes) {
-        const auto progId = progIdOf(component.description().library, entry.identity);
-        for (const String& name : {String(entry.identity.name), progId, toUtf16(entry.identity.classId.text())})
-            EXPECT_EQ(component.create(name)->description().name, entry.identity.name);
-    }
-    for (const StringView unknown :
-         {u"ssOkCancle", u"", u"{00000000-0000-0000-0000-000000000000}", u"Other.ssOKCancel"}) {
-        try {
-            component.create(unknown);
-            ADD_FAILURE() << toUtf8(unknown);
-        } catch (const Failure& failure) {
-            EXPECT_EQ(failure.status(), Status::ClassNotAvailable);
-            EXPECT_NE(std::string_view(failure.what()).find(toUtf8(unknown)), std::string_view::npos);
-        }
-    }
-}
-
 TEST(Runtime, NullPointersGiveAStatus) {
     void* library = dlopen(COMPONENT_FILE, RTLD_NOW);
     const auto get = reinterpret_cast<GetClassObjectEntry*>(dlsym(library, "DllGetClassObject"));
@@ -94,39 +75,6 @@ TEST(Runtime, AClassThatIsNowhereIsNotAvailableWithoutAPlaceForRegistrations) {
     }
     for (const auto& [name, value] : before)
         setenv(name, value.c_str(), 1);
-}
-
-TEST(Runtime, RefusesToUnloadWhileAnythingLives) {
-    LoadedComponent component(COMPONENT_FILE);
-    const auto refused = [&] {
-        try {
-            component.unload();
-            return false;
-        } catch (const Failure& failure) {
-            return failure.status() == Status::InUse;
-        }
-    };
-    auto object = component.create(u"ssOKCancel");
-    EXPECT_EQ(component.liveObjects(), 1U);
-    EXPECT_TRUE(refused());
-
-    class Sink final : public EventSink {
-        void Event(Long /*number*/, std::span<Variant> /*arguments*/) override {}
-    } sink;
-    Connection connection;
-    ASSERT_EQ(object->Connect(1, sink, connection), Status::Ok);
-    object = nullptr;
-    EXPECT_EQ(component.liveObjects(), 0U);
-    EXPECT_TRUE(refused()) << "a connection lives";
-    connection.disconnect();
-
-    auto factory = component.classFactory(component.description().classes[0].identity.classId);
-    EXPECT_TRUE(refused()) << "a class factory lives";
-    factory = nullptr;
-
-    component.unload();
-    EXPECT_FALSE(isInProcess(COMPONENT_FILE)) << "really gone";
-    EXPECT_THROW(component.create(u"ssOKCancel"), Failure);
 }
 
 TEST(Runtime, AThousandRoundsOfLoadingAndUnloadingLeaveNothingBehind) {
@@ -192,16 +140,6 @@ TEST(Runtime, FilesThatAreNoComponent) {
     ASSERT_NE(dladdr(reinterpret_cast<const void*>(&parseKey), &platform), 0);
     EXPECT_EQ(statusOfLoading(platform.dli_fname, &message), Status::BadComponent);
     EXPECT_NE(message.find("DllGetClassObject"), std::string::npos) << message;
-}
-
-TEST(Runtime, TheClassObjectEntryAnswersForUnknownIds) {
-    void* object = &object;
-    const auto& known = libraryModule().description().find(u"ssOKCancel")->identity.classId;
-    EXPECT_EQ(getClassObject(libraryModule(), &InformationInterface, &ClassFactoryInterface, &object),
-              Status::ClassNotAvailable);
-    EXPECT_EQ(object, nullptr);
-    EXPECT_EQ(getClassObject(libraryModule(), &known, &known, &object), Status::NoInterface);
-    EXPECT_TRUE(libraryModule().canUnload());
 }
 
 } // namespace zilvo

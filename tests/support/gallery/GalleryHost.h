@@ -1,80 +1,74 @@
 #pragma once
 
-#include "tests/support/EventLog.h"
 #include "tests/support/gallery/GalleryLibrary.h"
+#include "zilvo/platform/component/ControlHost.h"
 #include "zilvo/platform/painting/SvgPainter.h"
+#include "zilvo/platform/values/Conversions.h"
 
 #include <gtest/gtest.h>
 
 namespace zilvo {
 
-using Heard = EventLog::Entries;
+/// What a host heard, in order: "CommandClicked(0)", "RibbonClicked(1, -1)", "SpunUp()".
+using Heard = std::vector<std::string>;
 
-/// A widget of the control under test, by name and index.
-struct At {
-    StringView name;
-    Integer index = NoIndex;
-};
-
-/// A live control of the gallery, driven as a user drives it, with a log of its events.
+/// A live control of the gallery, driven as a user drives it, with a log of its events. Widgets are named as in
+/// "spnCount", "cmdPush2" (an element), "smallOne.ssoPick1" (in an embedded control).
 class GalleryHost {
 public:
-    GalleryHost() : GalleryHost(createObject<WidgetGallery>(galleryModule())) {}
-    explicit GalleryHost(Ref<Object> object)
-        : host_(std::make_unique<ControlHost>(std::move(object))), log_(std::make_unique<EventLog>(*host_)) {
+    static Ref<Object> make(StringView className) {
+        return galleryModule().description().find(className)->create(galleryModule());
+    }
+    explicit GalleryHost(StringView className = u"WidgetGallery")
+        : GalleryHost(std::make_unique<ControlHost>(make(className))) {}
+    explicit GalleryHost(std::unique_ptr<ControlHost> host) : host_(std::move(host)) {
+        for (const EventDescription& event : host_->object().description().events)
+            host_->on(event.name, [&log = *heard_, name = toUtf8(event.name)](std::span<Variant> arguments) {
+                std::string entry = name + "(";
+                for (const Variant& argument : arguments)
+                    entry += (entry.back() == '(' ? "" : ", ") + toUtf8(toString(argument));
+                log.push_back(entry + ")");
+            });
         host_->open();
     }
 
-    ControlHost& host() const { return *host_; }
     ControlHost* operator->() const { return host_.get(); }
     Surface& surface() const { return host_->control().surface(); }
-    Heard heard() const { return log_->take(); }
+    /// Since the last call.
+    Heard heard() const { return std::exchange(*heard_, {}); }
     /// Ends the host, as one of its own handlers may.
     void destroy() { host_.reset(); }
     bool isDestroyed() const { return !host_; }
 
-    /// The inner surface of the embedded control of that name.
-    Surface& inside(StringView embedded) const { return *surface().find(embedded)->embeddedSurface(); }
-    Widget& widget(At at) const { return widgetOf(surface(), at); }
-    static Widget& widgetOf(const Surface& surface, At at) {
-        Widget* widget = surface.find(at.name, at.index);
-        if (!widget) throw Failure(Status::MissingElement, "there is no widget " + toUtf8(at.name));
+    Widget& operator[](StringView path) const {
+        const Surface* on = &surface();
+        if (const auto dot = path.find(u'.'); dot != path.npos) {
+            on = (*this)[path.substr(0, dot)].embeddedSurface();
+            path.remove_prefix(dot + 1);
+        }
+        const StringView name = path.substr(0, path.find_first_of(u"0123456789"));
+        path.remove_prefix(name.size());
+        Widget* widget = on->find(name, path.empty() ? NoIndex : toInteger(Variant(String(path))));
+        if (!widget) throw Failure(Status::MissingElement, "there is no widget " + toUtf8(name));
         return *widget;
     }
-
-    Variant get(At at, StringView member) const { return getMember(widget(at), member); }
-    void put(At at, StringView member, const Variant& value) const { putMember(widget(at), member, value); }
-    bool isOn(At at) const { return toNumber(get(at, u"Value")) != 0; }
+    void put(StringView path, StringView member, const Variant& value) const {
+        putMember((*this)[path], member, value);
+    }
 
     bool act(const InputEvent& event) const { return host_->input(event); }
-    bool click(At at) const { return host_->click(at.name, at.index); }
-    bool press(Point at, Integer button = input::LeftButton, Integer shift = 0) const {
-        return act(input::PointerDown{at, button, shift});
-    }
+    bool click(StringView path) const { return act(input::Act{(*this)[path]}); }
+    bool press(Point at, Integer button = input::LeftButton) const { return act(input::PointerDown{at, button}); }
     bool move(Point at) const { return act(input::PointerMove{at}); }
-    bool release(Point at, Integer button = input::LeftButton) const { return act(input::PointerUp{at, button}); }
-    bool type(Integer code) const { return act(input::KeyTyped{code}); }
+    bool release(Point at) const { return act(input::PointerUp{at}); }
     bool key(StringView name) const { return act(*parseKey(name)); }
     bool wait(int milliseconds) const { return act(input::TimePassed{std::chrono::milliseconds(milliseconds)}); }
-
-    /// "ssoSeat(2)", or "" when nothing has the keyboard.
-    std::string focus() const {
-        const Widget* widget = host_->control().focus();
-        if (!widget) return "";
-        const auto index = widget->isArrayElement() ? "(" + std::to_string(widget->index()) + ")" : std::string();
-        return toUtf8(widget->name()) + index;
-    }
-    void focusOn(At at) const {
-        const Point point = middleOf(at);
-        press(point);
-        release({-1, -1});
-        EXPECT_EQ(host_->control().focus(), &widget(at));
-    }
+    /// A press of the left button there, let go of elsewhere: no click.
+    void focusOn(StringView path) const { press(pointOf(path)), release({-1, -1}); }
 
     /// On the control's surface, in twips; for widgets that lie on it or in its panels and frames.
-    Point middleOf(At at) const { return pointOf(at, 0.5F, 0.5F); }
-    Point pointOf(At at, Single across, Single down) const {
-        const Widget& wanted = widget(at);
+    Point pointOf(StringView path, Single across = 0.5F, Single down = 0.5F) const {
+        const Widget& wanted = (*this)[path];
         Point point{wanted.bounds().width * across, wanted.bounds().height * down};
         for (const Widget* outer = &wanted; outer; outer = outer->parent())
             point = {point.x + outer->bounds().left, point.y + outer->bounds().top};
@@ -82,15 +76,14 @@ public:
     }
 
     std::string painted() const {
-        const Rectangle area = surface().area();
-        SvgPainter painter(area.width, area.height);
+        SvgPainter painter(surface().area().width, surface().area().height);
         host_->paint(painter);
         return painter.document();
     }
 
 private:
+    std::unique_ptr<Heard> heard_ = std::make_unique<Heard>();
     std::unique_ptr<ControlHost> host_;
-    std::unique_ptr<EventLog> log_;
 };
 
 } // namespace zilvo

@@ -1,23 +1,18 @@
 #include "tests/support/gallery/GalleryLibrary.h"
 
+#include "tests/support/gallery/Outer.h"
+#include "tests/support/gallery/WidgetGallery.h"
 #include "zilvo/framework/Identity.h"
 
 namespace zilvo {
 
 namespace {
 
-constexpr LibraryIdentity identity{
-    .name = u"Gallery",
-    .id = "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20000}"_guid,
-    .majorVersion = 1,
-    .minorVersion = 2,
-    .locale = 1033,
-    .helpString = u"Every kind of widget, member and event",
-};
-
-constexpr VersionRecord version{.version = {1, 2, 0, 0}, .strings = {}};
-
 // clang-format off
+constexpr LibraryIdentity identity{
+    .name = u"Gallery", .id = "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20000}"_guid, .majorVersion = 1, .minorVersion = 2,
+    .locale = 1033, .helpString = u"Every kind of widget, member and event"};
+constexpr VersionRecord version{.version = {1, 2, 0, 0}, .strings = {}};
 constexpr ClassIdentity widgetGallery{
     u"WidgetGallery", "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20010}"_guid, "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20011}"_guid,
     "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20012}"_guid, 30000, ControlStatus};
@@ -27,9 +22,6 @@ constexpr ClassIdentity outer{
 constexpr ClassIdentity small{
     u"Small", "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20030}"_guid, "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20031}"_guid,
     "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20032}"_guid, 30002, ControlStatus};
-constexpr ClassIdentity galleryFunctions{
-    u"GalleryFunctions", "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20040}"_guid, "{5A1E0F10-3B52-4C6E-9B10-77A0C1D20041}"_guid,
-    std::nullopt, std::nullopt, std::nullopt};
 // clang-format on
 
 template <class T>
@@ -38,14 +30,11 @@ Ref<Object> creator(ComponentModule& module) {
 }
 
 constexpr std::array<const EnumerationDescription*, 1> enumerationsOfGallery = {&galleryMoodDescription};
-
 constinit const std::array classes = {
     ClassEntry{widgetGallery, WidgetGallery::Description, creator<WidgetGallery>},
     ClassEntry{outer, Outer::Description, creator<Outer>},
     ClassEntry{small, Small::Description, creator<Small>},
-    ClassEntry{galleryFunctions, GalleryFunctions::Description, creator<GalleryFunctions>},
 };
-
 constinit const ComponentDescription component{identity, version, enumerationsOfGallery, classes};
 
 } // namespace

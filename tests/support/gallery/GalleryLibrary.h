@@ -1,14 +1,10 @@
 #pragma once
 
-#include "tests/support/gallery/GalleryFunctions.h"
-#include "tests/support/gallery/Outer.h"
-#include "tests/support/gallery/Small.h"
-#include "tests/support/gallery/WidgetGallery.h"
-#include "zilvo/platform/component/ClassFactory.h"
+#include "zilvo/framework/Platform.h"
 
 namespace zilvo {
 
-/// A component of its own, with controls that use all that the platform and the framework offer.
+/// A component of its own: WidgetGallery, Outer and Small, which use all that the platform and the framework offer.
 ComponentModule& galleryModule() noexcept;
 
 } // namespace zilvo

@@ -1,0 +1,136 @@
+#include "tests/support/gallery/GalleryHost.h"
+#include "zilvo/platform/widgets/SpinButton.h"
+
+namespace zilvo {
+namespace {
+
+constexpr Point onPanel{1800, 900}; // where the right button pops the menu up
+
+TEST(Pointer, AWidgetIsPressedWhileItHoldsThePointerAndIsUnderIt) {
+    const GalleryHost g;
+    const Widget& go = g[u"cmdPush0"];
+    const Widget& quit = g[u"cmdPush1"];
+    g.press(g.pointOf(u"cmdPush0"));
+    EXPECT_TRUE(go.isPressed());
+    const auto repaints = g->repaints();
+    g.move(g.pointOf(u"cmdPush1"));
+    EXPECT_FALSE(go.isPressed() || quit.isPressed());
+    EXPECT_EQ(g->repaints(), repaints + 1);
+    g.move(g.pointOf(u"cmdPush0", 0, 0));
+    EXPECT_TRUE(go.isPressed());
+    g.press(onPanel, input::MiddleButton);
+    EXPECT_TRUE(go.isPressed());
+    g.press(g.pointOf(u"cmdPush1"));
+    EXPECT_TRUE(!go.isPressed() && quit.isPressed());
+    g.press(onPanel, input::RightButton); // the menu takes the pointer
+    EXPECT_FALSE(quit.isPressed());
+    g.key(u"Escape");
+    g->on(u"CommandClicked", [&](std::span<Variant>) { EXPECT_FALSE(go.isPressed()) << "let go of before its click"; });
+    EXPECT_TRUE(g.click(u"cmdPush0"));
+}
+
+TEST(Pointer, ToolTipsAreThoseOfTheWidgetInFront) {
+    const GalleryHost g;
+    g.put(u"optChoice1", u"ToolTipText", u"The first");
+    const auto tip = [&](Point at) { return toUtf8(toolTipAt(g->control(), at)); };
+    EXPECT_EQ(tip({5700, 600}), "The chip in front");
+    EXPECT_EQ(tip(onPanel), "Right button for the menu");
+    EXPECT_EQ(tip(g.pointOf(u"optChoice1")), "The first");
+    EXPECT_EQ(tip(g.pointOf(u"optChoice2")) + tip({0, 0}) + tip({-5, 0}), "");
+    g[u"imgChip0"].bringToFront();
+    EXPECT_EQ(tip({5700, 600}), "The chip behind");
+    g.put(u"imgChip0", u"Visible", false);
+    EXPECT_EQ(tip({5700, 600}), "The chip in front");
+    g[u"ribCard0"].bringToFront();
+    EXPECT_GT(g[u"ribCard0"].zOrder(), g[u"ribCard1"].zOrder());
+}
+
+TEST(PopUp, IsPaintedOverTheControlAndPaintedAnewAtEachStep) {
+    const GalleryHost g;
+    const std::string closed = g.painted();
+    std::string before = closed;
+    auto repaints = g->repaints();
+    const auto shows = [&](bool acted) {
+        EXPECT_TRUE(acted);
+        EXPECT_GT(g->repaints(), std::exchange(repaints, g->repaints()));
+        EXPECT_NE(g.painted(), std::exchange(before, g.painted()));
+    };
+    shows(g.press(onPanel, input::RightButton));
+    shows(g.move({2200, 1087}));
+    shows(g.key(u"Down"));
+    shows(g.move({2200, 2077})); // its submenu
+    g.put(u"mnuPick2", u"Checked", false);
+    shows(true);
+    shows(g.press({0, 0}));
+    EXPECT_EQ(before, closed);
+}
+
+TEST(PopUp, AHostThatShowsItInItsOwnWayHandsTheChoiceIn) {
+    struct Host final : ControlHost {
+        using ControlHost::ControlHost;
+        bool ShowPopup(Menu& root) override { return (shown = &root) != nullptr; }
+        Menu* shown = nullptr;
+    };
+    auto owned = std::make_unique<Host>(GalleryHost::make(u"Outer"));
+    const Host& host = *owned;
+    const GalleryHost g(std::move(owned));
+    const std::string before = g.painted();
+    g.press({1400, 700}, input::RightButton); // on the embedded control
+    ASSERT_NE(host.shown, nullptr);
+    EXPECT_EQ(g.painted(), before);
+    EXPECT_TRUE(g.act(input::Act{*host.shown->items().front()}));
+    g.key(u"Enter"); // is not the menu's
+    EXPECT_EQ(g.heard(), (Heard{"Picked(11)", "PushClicked(1)"}));
+}
+
+constexpr auto Delay = static_cast<int>(SpinButton::RepeatDelay.count());
+constexpr auto Every = static_cast<int>(SpinButton::RepeatEvery.count());
+
+TEST(Spinning, RepeatsWhileHeldByTheHostsClock) {
+    constexpr std::pair<int, std::size_t> steps[] = {{Delay - 1, 0}, {1, 1},         {Every - 1, 0}, {1, 1},
+                                                     {Every / 2, 0}, {Every / 2, 1}, {3 * Every, 3}, {0, 0}};
+    const GalleryHost g;
+    EXPECT_FALSE(g.wait(Delay)) << "nothing is held";
+    const Point down = g.pointOf(u"spnCount", 0.5F, 0.75F);
+    for (int times = 0; times < 2; ++times) { // each time from the start
+        g.press(down);
+        EXPECT_EQ(g.heard(), Heard{"SpunDown()"});
+        for (const auto& [time, spins] : steps) {
+            EXPECT_TRUE(g.wait(time));
+            EXPECT_EQ(g.heard(), Heard(spins, "SpunDown()")) << time;
+        }
+        g.move({0, 0});
+        EXPECT_FALSE(g.wait(10000)) << "the pointer is elsewhere";
+        g.move(down);
+        EXPECT_TRUE(g.wait(1));
+        EXPECT_EQ(g.heard(), Heard{});
+        g.release(down);
+        EXPECT_FALSE(g.wait(10000));
+    }
+    g.act(input::Act{g[u"spnCount"], input::Action::SpinUp});
+    EXPECT_FALSE(g.wait(10000));
+}
+
+TEST(Spinning, EndsWhenAHandlerTakesTheButtonOrThePointerAway) {
+    for (const StringView taken : {u"Enabled", u"Visible", u"the pointer"}) {
+        const GalleryHost g;
+        int left = 3;
+        g->on(u"SpunUp", [&](std::span<Variant>) {
+            if (--left > 0) return;
+            if (taken == u"the pointer")
+                g.press(onPanel, input::RightButton); // by the menu
+            else
+                g.put(u"spnCount", taken, false);
+        });
+        g.press(g.pointOf(u"spnCount", 0.5F, 0.25F));
+        g.wait(10000);
+        EXPECT_EQ(g.heard().size(), 3U);
+        for (const StringView member : {u"Enabled", u"Visible"})
+            g.put(u"spnCount", member, true);
+        g.wait(10000);
+        EXPECT_EQ(g.heard(), Heard{}) << "the time that it was away is not made up for";
+    }
+}
+
+} // namespace
+} // namespace zilvo
