@@ -193,6 +193,14 @@ TEST(Look, AFocusWithoutACaptionShowsInTheMark) {
     EXPECT_TRUE(shown.width > 5 * TwipsPerPixel && shown.height > 5 * TwipsPerPixel);
 }
 
+TEST(Look, TheFocusOfALowSpinButtonIsDrawnRoundItsArrows) {
+    ControlHost counter(create<SpinCounter>());
+    counter.open(nullptr, 1500, 360);
+    press(counter, u"Tab");
+    for (const auto& [frame, clip] : Canvas(counter).dotted)
+        EXPECT_EQ(frame.height, 10 * TwipsPerPixel);
+}
+
 TEST(Look, ASeatsMarkerCoversItsDigitAndNeighboursKeepTheirs) {
     for (Long seat = 1; seat <= 10; ++seat) {
         ControlHost host(create<SeatCheckBoxes>());

@@ -64,8 +64,9 @@ void SpinButton::paint(Painter& painter) const {
         // Mounted above or below another widget, a wide button may show its upper half only: the arrows stay there.
         const Single shown = isSideBySide() ? area.height / 2 : area.height;
         look::arrow(painter, {area.left, area.top, area.width, shown}, way == Spin::Up, !get_Enabled());
-        if (isFocused())
-            look::focus(painter, Rectangle{area.left, area.top, area.width, shown}.inset(3 * TwipsPerPixel));
+        // A low half has room for a frame only on its bevel.
+        const Single inset = shown < 16 * TwipsPerPixel ? TwipsPerPixel : 3 * TwipsPerPixel;
+        if (isFocused()) look::focus(painter, Rectangle{area.left, area.top, area.width, shown}.inset(inset));
     }
 }
 
