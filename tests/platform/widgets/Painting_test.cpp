@@ -36,7 +36,8 @@ TEST(WidgetPainting, EachOtherMemberShowsAndIsPaintedAnewOnce) {
     const std::tuple<StringView, StringView, Variant> cases[] = {
         {u"cmdPush0", u"Default", false},    {u"cmdPush1", u"Caption", u"&Other"},
         {u"cmdPush1", u"Caption", u"Q&uit"}, {u"cmdPush1", u"BackColor", colours::White},
-        {u"chkPick0", u"Value", 2},          {u"lblTable", u"ForeColor", Colour{0x000000FF}},
+        {u"chkPick0", u"Value", 2},          {u"ssoSeat1", u"Value", true},
+        {u"sscToggle", u"Value", true},      {u"lblTable", u"ForeColor", Colour{0x000000FF}},
         {u"frameChecks", u"Caption", u""},   {u"frameChecks", u"Height", 60},
         {u"ribCard0", u"Outline", true},     {u"ribCard0", u"BackColor", colours::White},
         {u"imgChip1", u"Left", 350},         {u"imgChip1", u"Top", 35},

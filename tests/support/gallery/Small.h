@@ -17,14 +17,14 @@ constexpr const EnumerationDescription& descriptionOf(GalleryMood) noexcept {
 }
 
 /// The player sees a title and three picks, of which the first so many are allowed; the right button opens a menu of
-/// two; 0 or Escape picks none. The host gets Picked and properties and methods of every kind of value and argument.
-/// Its colours are the host's. The properties up to Font are saved; the loaded control gives itself its width.
+/// two, the left one picks where it is pressed; 0 or Escape picks none. The host gets Picked and properties and methods
+/// of every kind of value and argument. Its colours are the host's. The properties up to Font are saved; the loaded
+/// control gives itself its width.
 class Small final : public Control {
 public:
-    static constexpr MemberId AllowedId = 0x68030002;
-    static constexpr MemberId StepId = 0x60030000;
-    static constexpr MemberId FlipId = 0x60030003;
+    static constexpr MemberId AllowedId = 0x68030002, StepId = 0x60030000, FlipId = 0x60030003;
     static constexpr Long MostPicks = 3;
+    static constexpr Single LoadedWidth = 1500;
 
     static const ObjectDescription Description;
     explicit Small(ComponentModule& module)
@@ -91,8 +91,6 @@ public:
     Event<Long> Picked{*this};
 
 private:
-    static constexpr Single LoadedWidth = 1500;
-
     const ObjectDescription& description() const noexcept override { return Description; }
 
     void ReadProperties(const PropertyBag& PropBag) override {
@@ -126,8 +124,10 @@ private:
         Picked.raise(Which);
         return true;
     }
-    void MouseDown(Integer Button, Integer /*Shift*/, Single /*X*/, Single /*Y*/) override {
-        if (Button == input::RightButton) userControl.PopupMenu(mnuRoot);
+    void MouseDown(Integer Button, Integer /*Shift*/, Single X, Single /*Y*/) override {
+        if (Button == input::RightButton) return userControl.PopupMenu(mnuRoot);
+        Long Which = toLong(Variant(X));
+        Picked.raise(Which);
     }
     void ssoPick_Click(Integer& Index, Integer& /*Value*/) {
         Long Which = Index;

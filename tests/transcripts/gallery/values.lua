@@ -106,11 +106,8 @@ small:save(); small:save(true)
 --> saves Allowed Long 3
 --> saves IsReady Boolean True, Count Integer 0, Allowed Long 3, Breadth Single 1500, Title String "", Mood Long 1, Font Font "Courier 8.25"
 -- A setting that does not convert fails the loading; what was read before it stays.
-local function load(settings) pcall(zilvo.create, "Small", { bag = settings }) end
-load { count = 40000 }; load { Title = zilvo.Long(8), Font = 3 }
+pcall(zilvo.create, "Small", { bag = { title = zilvo.Long(8), Font = 3 } })
 --> created Small 4
---> fails: overflow: Small.ReadProperties: Count: 40000 (Long) is out of the range of Integer
---> created Small 5
 --> surface: Width 1200 -> 1500, ScaleWidth 1200 -> 1500
 --> Small: Breadth 1200 -> 1500
 --> size 1500 x 1200
@@ -119,7 +116,7 @@ load { count = 40000 }; load { Title = zilvo.Long(8), Font = 3 }
 --> fails: type mismatch: Small.ReadProperties: Font: 3 (Long) does not convert to Font
 -- Each ambient change reaches it; a new one takes none over.
 small = zilvo.create("Small", { ambient = { BackColor = 255 } })
---> created Small 6
+--> created Small 5
 small.ambient.UserMode = false; pcall(function() small.ambient.ForeColor = 0x100000000 end); small.Shown = false
 --> surface: BackColor 0x8000000F -> 0x000000FF
 --> Small: Ground 0x8000000F -> 0x000000FF, RunsInUserMode True -> False

@@ -85,11 +85,11 @@ click "mnuPick0 mnuPick1 mnuMorePick11 panelOptions lblTable shpTable frameCheck
 --> PanelPressed(1, 0)
 --> PressedAt(1200, 825)
 --> prints nothing for mnuPick1 lblTable shpTable frameChecks panelThreeD spnCount mnuRoot mnuBar mnuMore
-print(at"spnCount":spin("up"), at"spnCount":spin("down"), at"cmdPush0":spin("up"), at"mnuPick0":spin("up"))
+print(at"spnCount":spin("up"), at"spnCount":spin("down"), at"cmdPush0":spin("up"), at"mnuPick0":spin("up"), at"optChoice3".Index, at"chkPick0".Index)
 --> focus ribCard(1) -> spnCount
 --> SpunUp()
 --> SpunDown()
---> prints true true false false
+--> prints true true false false 3 0
 -- The same from code: option buttons and check boxes tell, the others do not.
 for _, on in ipairs { true, true, false } do at"optChoice3".Value = on end; at"optOther".Value = false
 --> optChoice(2): Value True -> False
@@ -271,16 +271,13 @@ at"sscToggle".Caption = "Tit && &Zip &Zap"; at"optChoice2".Caption = "This && Th
 --> sscToggle: Caption "&Toggle" -> "Tit && &Zip &Zap"
 --> optChoice(2): Caption "&Two" -> "This && That&"
 --> ssoSeat(3): Visible True -> False
-keys "Alt+Shift+z Alt+T Alt+3 Alt+X Alt+& Alt+Escape Ctrl+Enter Ctrl+Space Control+a"
+keys "Alt+Shift+z Alt+T Alt+3 Alt+X Alt+& Alt+Escape Ctrl+Enter Ctrl+Space Control+l"
 --> focus optChoice(2) -> sscToggle
 --> sscToggle: Value True -> False
 --> SSCheckClicked(-1, 0)
---> prints nothing for Alt+T Alt+3 Alt+X Alt+& Alt+Escape Ctrl+Enter Ctrl+Space Control+a
+--> prints nothing for Alt+T Alt+3 Alt+X Alt+& Alt+Escape Ctrl+Enter Ctrl+Space Control+l
 -- Space is for the widget with the keyboard, and so is Enter when that is a push button.
-keys "Space Enter Alt+P Space Enter"
---> KeyTyped(32)
---> sscToggle: Value False -> True
---> SSCheckClicked(-1, -1)
+keys "Enter Alt+P Space Enter"
 --> KeyTyped(13)
 --> CommandClicked(0)
 --> focus sscToggle -> cmdPush(2)
@@ -292,8 +289,8 @@ keys "Space Enter Alt+P Space Enter"
 g:on("KeyTyped", function(code) return code == 120 and 13 or code == 13 and 0 or nil end)
 keys "Alt+z x Enter +"; g:key("\u{e9}")
 --> focus cmdPush(2) -> sscToggle
---> sscToggle: Value True -> False
---> SSCheckClicked(-1, 0)
+--> sscToggle: Value False -> True
+--> SSCheckClicked(-1, -1)
 --> KeyTyped(120)
 -->   gives 13
 --> CommandClicked(0)
