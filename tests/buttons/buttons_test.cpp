@@ -24,19 +24,6 @@ struct ShortLived {
     }
 };
 
-/// What a control saves after a loading that failed at the key that is no text.
-template <class T>
-std::string savedAfterFailure(const MemoryPropertyBag& settings) {
-    ControlHost host(create<T>());
-    EXPECT_THROW(host.open(&settings), Failure);
-    MemoryPropertyBag saved;
-    host.save(saved);
-    std::string all;
-    for (const auto& setting : saved.settings())
-        all += toUtf8(setting.name) + "=" + toUtf8(toString(setting.value)) + " ";
-    return all;
-}
-
 } // namespace
 
 TEST(Buttons, AHandlerMayLetGoOfTheControl) {
@@ -63,19 +50,6 @@ TEST(Buttons, AHandlerMayLetGoOfTheControl) {
     }
 }
 
-TEST(Buttons, WhatWasReadBeforeALoadingFailedStays) {
-    MemoryPropertyBag settings;
-    settings.set(u"Default", false);
-    settings.set(u"Cancel", false);
-    settings.set(u"OKToolTipText", Integer{42});
-    settings.set(u"CancelToolTipText", StdFont::make({}));
-    settings.set(u"StopButtonToolTip", u"Halt");
-    settings.set(u"StartButtonToolTip", StdFont::make({}));
-    EXPECT_EQ(savedAfterFailure<ssOKCancel>(settings),
-              "Default=False Cancel=False ItalicOK=True ItalicCancel=True OKToolTipText=42 ");
-    EXPECT_EQ(savedAfterFailure<StartStopButtons>(settings), "StartButtonToolTip= StopButtonToolTip=Halt ");
-}
-
 TEST(VerticalOK, RefusesNoFontAndItsFontOutlivesIt) {
     FontRef font;
     {
@@ -94,21 +68,6 @@ TEST(LetterButton, ShowsHalfACharacterAsAWholeOne) {
     for (const String& given : {high, high + u"A", low + high}) {
         marker->put_Letter(given);
         EXPECT_EQ(marker->get_Letter(), u"\uFFFD");
-    }
-}
-
-TEST(Pictures, DrawnOnceAndOnBothGroundsTheSame) {
-    EXPECT_EQ(plusPicture().deviceIndependent().size(), 40U + 92U * 30U) << "rows of 90 bytes, padded";
-    EXPECT_NE(plusPicture().at(15, 9), minusPicture().at(15, 9));
-    for (const auto picture : {discardTrayPicture, tablePicture, shoePicture}) {
-        const Bitmap& white = picture(Ground::White);
-        const Bitmap& yellow = picture(Ground::Yellow);
-        EXPECT_EQ(&white, &picture(Ground::White));
-        EXPECT_EQ(yellow.at(0, 0), (Bitmap::Pixel{255, 255, 0}));
-        for (int at = 0; at < 32 * 32; ++at) { // yellow is white without its blue
-            const Bitmap::Pixel one = white.at(at % 32, at / 32), other = yellow.at(at % 32, at / 32);
-            EXPECT_TRUE(one.red == other.red && one.green == other.green && one.blue >= other.blue);
-        }
     }
 }
 

@@ -115,23 +115,6 @@ TEST(Events, RaisingAgainInsideAHandler) {
     EXPECT_EQ(seen, (std::vector<Long>{1, 2, 3}));
 }
 
-TEST(Events, AHandlerThatHoldsTheControlAndItsOwnConnection) {
-    const std::size_t before = libraryModule().liveObjects();
-    for (const bool inside : {false, true}) {
-        auto raiser = makeRaiser();
-        const auto connection = std::make_shared<Connection>();
-        *connection = raiser->Changed.attach([held = raiser, connection, inside](Long&) {
-            if (inside) connection->disconnect();
-        });
-        Long value = 0;
-        Raiser& pointer = *raiser;
-        raiser = nullptr; // the handler's is the last reference now
-        pointer.Changed.raise(value);
-        if (!inside) connection->disconnect();
-        EXPECT_EQ(libraryModule().liveObjects(), before);
-    }
-}
-
 TEST(Events, AFailureStopsTheRaiseAndLeavesTheEventUsable) {
     const auto raiser = makeRaiser();
     std::string log;

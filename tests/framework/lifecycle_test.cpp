@@ -178,16 +178,4 @@ TEST(Surface, SizesColoursAndUnits) {
     EXPECT_FALSE(host.input(input::PointerDown{{150, 601}})) << "outside the control";
 }
 
-TEST(Surface, WithoutASiteDefaultsAnswerAndNothingIsNotified) {
-    const auto control = makeLogger();
-    UserControl& surface = control->own();
-    EXPECT_TRUE(surface.get_Ambient().get_UserMode());
-    EXPECT_EQ(surface.get_Ambient().get_BackColor(), colours::ButtonFace);
-    EXPECT_EQ(surface.get_Ambient().get_Font()->get_Name(), u"MS Sans Serif");
-    surface.get_Extender().put_Visible(false);
-    surface.PropertyChanged(u"Anything");
-    surface.Beep();
-    EXPECT_EQ(control->log, "Initialize ");
-}
-
 } // namespace zilvo

@@ -10,7 +10,6 @@ local shuffle = zilvo.create("CardShufflingOptions")
 --> optCardShuffleMethod(3): OptionButton in panelCardShufflingOptions, Caption "SM Box Shuffle", BackColor 0x00C0C0C0, ForeColor 0x80000012, Font "Comic Sans MS 9.75 bold", Left 5160, Top 550, Width 1215, Height 500, Enabled False, ToolTipText "Cards are Shuffled with the ShuffleMaster BOX.", TabIndex 4
 --> optCardShuffleMethod(4): OptionButton in panelCardShufflingOptions, Caption "Random Shuffle", BackColor 0x00C0C0C0, ForeColor 0x80000012, Font "Comic Sans MS 9.75 bold", Left 6720, Top 550, Width 1215, Height 500, ToolTipText "Cards are Shuffled \"Randomly\".", TabIndex 3
 local function method(k) return shuffle:widget("optCardShuffleMethod", k) end
-
 -- The host's choice is stored, the player's is only reported.
 for _, k in ipairs { 3, 3 } do shuffle.CardShuffleMethod = k end
 --> optCardShuffleMethod(0): Value True -> False
@@ -40,7 +39,6 @@ shuffle.CardShuffleMethod = 0
 for _, keepsDefaults in ipairs { false, true } do shuffle:save(keepsDefaults) end
 --> saves nothing
 --> saves CardShuffleMethod Long 0
-
 -- What is no method is refused before anything changes.
 local function set(value) shuffle.CardShuffleMethod = value end
 for _, none in ipairs { 5, -1, 32768, "random" } do pcall(set, none) end
@@ -48,7 +46,6 @@ for _, none in ipairs { 5, -1, 32768, "random" } do pcall(set, none) end
 --> fails: missing element: CardShufflingOptions.CardShuffleMethod: optCardShuffleMethod has no element -1
 --> fails: overflow: CardShufflingOptions.CardShuffleMethod: 32768 (Long) is out of the range of Integer
 --> fails: type mismatch: CardShufflingOptions.CardShuffleMethod: "random" (String) does not convert to Long
-
 -- A handler calls back, writes its argument, or fails.
 shuffle:on("CardShuffleMethodChanged", function(k)
   if k == 1 then shuffle.CardShuffleMethod = 4 end
@@ -72,13 +69,11 @@ pcall(set, 2)
 --> CardShufflingOptions: CardShuffleMethod RandomShuffleGeneric -> StraightThruGeneric
 --> CardShuffleMethodChanged(2)
 --> fails as the handler did
-
 -- It takes no ambient property, and nothing follows its size.
 shuffle.ambient.BackColor = 0
 shuffle.extender.Width = 6000
 --> surface: Width 8565 -> 6000, ScaleWidth 571 -> 400
 --> size 6000 x 1245
-
 -- Loading selects the method, which is an event.
 zilvo.create("CardShufflingOptions", { bag = {} })
 --> created CardShufflingOptions 2

@@ -35,7 +35,6 @@ local decks = zilvo.create("DeckButtons")
 --> menuCasinoDefaults(70): Menu in menuLikelyDefaults, Caption "&Cruise Ships"
 local function deck(k) return decks:widget("optDeckCount", k) end
 local function casino(k) return decks:widget("menuCasinoDefaults", k) end
-
 -- The host selects any count, greyed out or not; 0 deselects all but 7 and 9; what has no button beeps.
 for _, count in ipairs { 10, 0, 12, 12, 0, 7, 0, 1 } do decks.NumberOfDecks = count end
 --> optDeckCount(1): Value True -> False
@@ -62,7 +61,6 @@ for _, count in ipairs { 3, 11, 13, -1 } do decks:invoke(0x68030001, "put", coun
 local function set(name, value) decks[name] = value end
 pcall(set, "NumberOfDecks", 32768)
 --> fails: overflow: DeckButtons.NumberOfDecks: 32768 (Long) is out of the range of Integer
-
 -- Each casino selects its count and takes the check mark.
 for _, k in ipairs { 10, 20, 25, 30, 40, 50, 60, 70, 70 } do
   if k <= 40 then decks:ResetButtons() end
@@ -122,7 +120,6 @@ for _, k in ipairs { 80, 90 } do pcall(casino, k) end
 --> fails: missing element: DeckButtons.menuCasinoDefaults(90) does not exist
 print(casino(1):click(), decks:widget("menuLikelyDefaults"):click(), decks:widget("menuDefaultMenu"):click())
 --> prints false false false
-
 -- The right button pops them up, alone or with others, with Shift and Ctrl, but not over a count.
 local function press(x, y, button, shift)
   decks:press(x, y, button, shift)
@@ -143,7 +140,6 @@ for _, key in ipairs { "Up", "Enter", "Up", "Up", "Down", "Enter" } do decks:key
 press(7900, 800, 2)
 --> pop-up menuDefaultMenu
 for _, key in ipairs { "Down", "Right", "Left", "Escape" } do decks:keydown(key) end
-
 -- The player selects by pointer, by access key, or by Tab and arrows; the check mark stays.
 for _, key in ipairs { "Alt+A", "Tab", "Tab", "Shift+Tab", "Alt+4" } do decks:keydown(key) end
 --> focus none -> optDeckCount(8), optDeckCount(8) -> optDeckCount(4)
@@ -166,7 +162,6 @@ print(deck(2):click(), deck(2):click(), deck(7):click(), decks:keydown("Alt+9"))
 --> DeckButtons: NumberOfDecks 5 -> 2
 --> NumberOfDecksChanged(2)
 --> prints true true false false
-
 -- Narrow, four counts are hidden, and a part of the control is bare until it gets a size.
 decks:invoke(0x68030000, "put", NarrowObject)
 --> optDeckCount(1): Left 120 -> 1320
@@ -221,7 +216,6 @@ decks.ObjectWidth = WideObject
 --> optDeckCount(9): Top 0 -> 560, Left 0 -> 2640, Enabled True -> False, Visible False -> True
 --> optDeckCount(10): Top 0 -> 560, Left 0 -> 3960, Enabled True -> False, Visible False -> True
 --> optDeckCount(12): Top 0 -> 560, Left 0 -> 5250, Enabled True -> False, Visible False -> True
-
 -- A handler calls back, writes its argument, or fails before the check mark is set.
 decks:on("NumberOfDecksChanged", function(count)
   if count == 6 then decks.NumberOfDecks = 4 end
@@ -248,7 +242,6 @@ pcall(function() casino(25):click() end)
 --> DeckButtons: NumberOfDecks 4 -> 2
 --> NumberOfDecksChanged(2)
 --> fails as the handler did
-
 -- Nothing is saved or loaded, and no ambient property taken.
 decks.ambient.BackColor = 0
 decks:save(true)

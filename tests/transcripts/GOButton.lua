@@ -5,7 +5,6 @@ local go = zilvo.create("GOButton")
 --> surface: BackColor 0x00FFFFFF, ForeColor 0x80000008, Width 990, Height 705, ScaleWidth 990, ScaleHeight 705
 --> labelGO: Label, Caption "&GO", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 18 bold", Left 240, Top 80, Width 1095, Height 495
 --> theGOButton: Shape, Shape 2, BorderWidth 3, BorderColor 0x80000008, FillColor 0x00008000, BackColor 0x00008000, Top 120, Width 960, Height 495
-
 -- The six forms, and what is none.
 for shape = GOButtonIsARectangle, GOButtonIsARoundedSquare do go.GOButtonShape = shape end
 --> theGOButton: Shape 2 -> 0, Shape 0 -> 1, Shape 1 -> 2, Shape 2 -> 3, Shape 3 -> 4, Shape 4 -> 5
@@ -20,13 +19,11 @@ for _, shape in ipairs { "4", 6, -1, 32767, 32768, -32769, "oval" } do pcall(put
 --> fails: overflow: GOButton.GOButtonShape: 32768 (Long) is out of the range of Integer
 --> fails: overflow: GOButton.GOButtonShape: -32769 (Long) is out of the range of Integer
 --> fails: type mismatch: GOButton.GOButtonShape: "oval" (String) does not convert to Long
-
 -- A click says nothing, neither on the letters nor beside them, nor does the access key.
 print(go:widget("labelGO"):click(), go:widget("theGOButton"):click(), go:press(700, 300), go:release(700, 300))
 --> prints false false true false
 print(go:press(20, 100), go:release(20, 100), go:keydown("Alt+g"), go:keydown("Tab"), go:key(13), go:key(" "))
 --> prints true false false false false false
-
 -- Nothing is saved, and the sign stays where and as it is, whatever the size and the colours of the window.
 go:save(true)
 --> saves nothing

@@ -10,7 +10,6 @@ local palette = zilvo.create("GamingCardSelection")
 --> GamingCardButtons(2): Threed.SSRibbon in SSPanel1, BackColor 0x00A8B090, Left 720, Top 120, Width 510, Height 510, TabIndex 2
 --> GamingCardButtons(3): Threed.SSRibbon in SSPanel1, BackColor 0x00A8B090, Left 1320, Top 120, Width 510, Height 510, TabIndex 3
 local function button(k) return palette:widget("GamingCardButtons", k) end
-
 -- Pressing one releases the others, tells, then clears its outline; pressing it again only releases it.
 for k = 1, 3 do button(k).Outline = true end
 --> GamingCardButtons(1): Outline False -> True
@@ -39,7 +38,6 @@ for _, key in ipairs { "Tab", "Tab", "Tab", "Space", "Right", "Enter" } do palet
 --> focus GamingCardButtons(3) -> chkXButton(0), chkXButton(0) -> chkXButton(1), chkXButton(1) -> GamingCardButtons(1)
 --> GamingCardButtons(1): Value False -> True
 --> CardsToDiscardTrayClicked()
-
 -- Pressed by the host, without an event.
 local function choose(k) return palette:SelectThisButton(k) end
 print(choose(theCardsToTableAreaWasSelected), choose(2.2), choose("3"))
@@ -57,7 +55,6 @@ for _, k in ipairs { 0, 4, 32768, -32769, 65537, "shoe" } do pcall(palette.invok
 button(3):click()
 --> focus GamingCardButtons(1) -> GamingCardButtons(3)
 --> GamingCardButtons(3): Value True -> False
-
 -- The close boxes hide the palette, checked or not; they lie in front of the panel.
 for _, x in ipairs { 2000, 2000, 200 } do
   palette:press(x, 200)
@@ -82,7 +79,6 @@ end
 --> extender: Visible True -> False
 --> prints true false
 --> extender: Visible False -> True
-
 -- Cards can be loaded when the button for that is shown.
 local load = palette:widget("cmdLoadCards")
 print(load:click())
@@ -94,7 +90,6 @@ print(load:click(), palette:key(13))
 --> LoadCardsRequested()
 --> LoadCardsRequested()
 --> prints true true
-
 -- A host that has the cards go elsewhere, and fails.
 palette:on("CardsToTableClicked", function()
   palette:SelectThisButton(3)
@@ -110,7 +105,6 @@ print(pcall(function() button(2):click() end))
 -->   GamingCardButtons(3): Value False -> True
 --> fails as the handler did
 --> prints false stop
-
 -- Nothing is saved, and all stays where and as it is, whatever the size and the colours of the window.
 palette:save(true)
 --> saves nothing

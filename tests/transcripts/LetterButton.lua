@@ -5,12 +5,10 @@ local marker = zilvo.create("LetterButton")
 --> surface: BackColor 0x8000000F, ForeColor 0x80000008, Width 495, Height 495, ScaleWidth 33, ScaleHeight 33
 --> labelLetter: Label, Caption "A", BackColor 0x8000000F, ForeColor 0x000000FF, Font "Comic Sans MS 14.25 bold", Left 6, Width 14, Height 23
 --> circleLetter: Shape, Shape 3, BorderWidth 5, BorderColor 0x80000008, FillColor 0x00000000, BackColor 0x80000005, Left 2, Top 2, Width 24, Height 23
-
 -- Of a word only the first character is shown.
 for _, letter in ipairs { "Queen", "B", "\u{E4}pfel", "\u{1F0A1}!", "&A", "", 42 } do marker.Letter = letter end
 --> labelLetter: Caption "A" -> "Q", Caption "Q" -> "B", Caption "B" -> "ä", Caption "ä" -> "🂡", Caption "🂡" -> "&", Caption "&" -> "", Caption "" -> "4"
 --> LetterButton: Letter "A" -> "4"
-
 -- Its place, in pixels, may be anywhere.
 for _, pixels in ipairs { 10, -500, 32767, -32768, 2.5 } do marker.LetterLeft = pixels end
 --> labelLetter: Left 6 -> 10, Left 10 -> -500, Left -500 -> 32767, Left 32767 -> -32768, Left -32768 -> 2
@@ -27,7 +25,6 @@ end
 --> fails: overflow: LetterButton.LetterTop: -32769 (Long) is out of the range of Integer
 --> fails: overflow: LetterButton.LetterLeft: 32768 (Long) is out of the range of Integer
 --> fails: overflow: LetterButton.LetterLeft: -32769 (Long) is out of the range of Integer
-
 -- Halves go to the even neighbour, and what is no Integer cannot be read.
 local label = marker:widget("labelLetter")
 for _, pixels in ipairs { 2.5, 3.5 } do label.Left = pixels; label.Top = -pixels end
@@ -38,13 +35,11 @@ label.Left = 32767.5
 --> LetterButton: LetterLeft 4 -> fails: overflow
 pcall(marker.invoke, marker, 0x68030001, "get")
 --> fails: overflow: LetterButton.LetterLeft: 32767.5 (Single) is out of the range of Integer
-
 -- It hears neither mouse nor keys.
 print(label:click(), marker:widget("circleLetter"):click(), marker:press(240, 240), marker:release(240, 240))
 --> prints false false true false
 print(marker:keydown("Tab"), marker:key(13), marker:keydown("Alt+a"))
 --> prints false false false
-
 -- Nothing is saved, and the letter stays where and as it is, whatever the size and the colours of the window.
 marker:save(true)
 --> saves nothing

@@ -11,7 +11,6 @@ local seats = zilvo.create("PlayerButtons")
 --> optPlayerSeatSelector(6): OptionButton in panelPlayerSeatButtons, Caption "Seat &6", BackColor 0x00C0C0C0, ForeColor 0x0000FFFF, Font "MS Sans Serif 8.25", Left 1820, Top 200, Width 1000, Height 195, TabIndex 6
 --> optPlayerSeatSelector(7): OptionButton in panelPlayerSeatButtons, Caption "Seat &7", BackColor 0x00C0C0C0, ForeColor 0x0000FFFF, Font "MS Sans Serif 8.25", Left 250, Top 200, Width 1000, Height 195, TabIndex 7
 local function seat(k) return seats:widget("optPlayerSeatSelector", k) end
-
 -- Every pick of another seat is told; what is no seat means seat 1.
 for _, k in ipairs { 6, 6 } do seat(k):click() end
 --> focus none -> optPlayerSeatSelector(6)
@@ -32,7 +31,6 @@ for _, k in ipairs { 4, 0, 1, 7, 8, -32768 } do seats:SelectButton(k) end
 --> optPlayerSeatSelector(1): Value False -> True
 --> optPlayerSeatSelector(7): Value True -> False
 --> PlayerSeatSelected(1)
-
 -- The seats that may be picked; one that may not can stay picked, and be picked by the host.
 seats:SetupTheRadioButtons { true, true, false, false, true, true, true }
 --> optPlayerSeatSelector(3): Enabled True -> False
@@ -57,7 +55,6 @@ for _, key in ipairs { "Tab", "Left", "Alt+4", "Alt+5", "Alt+6", "Tab", "Space" 
 --> optPlayerSeatSelector(6): Value False -> True
 --> optPlayerSeatSelector(7): Value True -> False
 --> PlayerSeatSelected(6)
-
 -- Arrays that cannot be read to their end.
 local many = {}
 for k = 1, 32768 do many[k] = k ~= 7 end
@@ -71,7 +68,6 @@ end
 --> optPlayerSeatSelector(4): Enabled False -> True
 --> optPlayerSeatSelector(7): Enabled True -> False
 --> fails: missing element: PlayerButtons.SetupTheRadioButtons: optPlayerSeatSelector has no element 8
-
 -- A handler changes the seat that it is given, picks another, or fails.
 seats:on("PlayerSeatSelected", function(k)
   if k == 4 then error("stop") end
@@ -93,7 +89,6 @@ pcall(seats.invoke, seats, 0x60030001, "method", 4)
 --> optPlayerSeatSelector(4): Value False -> True
 --> PlayerSeatSelected(4)
 --> fails as the handler did
-
 -- Nothing is saved, and the host's colours are not followed.
 seats:save(true)
 --> saves nothing

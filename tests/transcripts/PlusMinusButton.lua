@@ -6,7 +6,6 @@ local mode = zilvo.create("PlusMinusButton")
 --> ImagePlusMinus(3): Image, Width 30, Height 30, Visible False, ToolTipText "Click here for ADD-mode"
 local connection = mode:on("WasClicked", function() return 7 end)
 local plus, minus = mode:widget("ImagePlusMinus", 2), mode:widget("ImagePlusMinus", 3)
-
 -- The picture that is shown is the mode; a click changes it, and what the host gives back does not.
 print(minus:click(), plus:click(), plus:click())
 --> ImagePlusMinus(2): Visible True -> False
@@ -23,7 +22,6 @@ print(mode:press(10, 10), mode:release(440, 440), mode:keydown("Tab"), mode:key(
 -->   gives 7
 --> prints true true false false false
 connection:disconnect()
-
 -- A host that will not have it subtract, and fails.
 mode:on("WasClicked", function(which)
   if which == aPlusButton then error("stop", 0) end
@@ -41,7 +39,6 @@ print(pcall(function() plus:click() end))
 -->   fails as the handler did
 --> fails as the handler did
 --> prints false stop
-
 -- Nothing is saved, and the pictures stay where and as they are, whatever the size and the colours of the window.
 mode:save(true)
 --> saves nothing
@@ -51,7 +48,6 @@ local loaded = zilvo.create("PlusMinusButton",
 --> surface: Width 450 -> 900, ScaleWidth 30 -> 60
 --> size 900 x 450
 for _, name in ipairs { "BackColor", "ForeColor", "UserMode" } do loaded.ambient[name] = 0 end
-
 -- Back to adding, also when that is the mode.
 loaded:RestartYourself()
 --> PlusMinusButton: PlusMinusButtonIs 0 -> aPlusButton

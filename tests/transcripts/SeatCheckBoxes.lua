@@ -17,7 +17,6 @@ local boxes = zilvo.create("SeatCheckBoxes")
 --> checkSeatSelected(10): CheckBox in frameSeatSpread, Caption "10", BackColor 0x8000000F, ForeColor 0x80000012, Font "MS Sans Serif 8.25", Left 1100, Top 1400, Width 495, Height 195, Enabled False, TabIndex 9
 local function box(k) return boxes:widget("checkSeatSelected", k) end
 local function setSeats(seats) boxes:AvailableSeatsAre(seats) end
-
 -- Only a box that is free can be ticked; each tick and untick is told at once.
 setSeats { true, false, true, false, false, false, true }
 --> checkSeatSelected(1): Enabled False -> True
@@ -32,7 +31,6 @@ for _, k in ipairs { 3, 3, 2, 7 } do box(k):click() end
 --> focus checkSeatSelected(3) -> checkSeatSelected(7)
 --> checkSeatSelected(7): Value 0 -> 1
 --> SeatSpreadToWas(Seat7WasSelected)
-
 -- Other free seats: their boxes are cleared; those above keep what they have, and element 0 means nothing.
 setSeats { [0] = true, false, false, true, false, false, false }
 --> checkSeatSelected(1): Enabled True -> False
@@ -46,7 +44,6 @@ setSeats(zilvo.array(0, { true, true, false, true, false, false, false, false })
 --> checkSeatSelected(7): Enabled True -> False
 setSeats(zilvo.array(-2, { true, true }))
 --> SeatCheckBoxes: NumberOfSeatsAllowed Seat7WasSelected -> -1
-
 -- Arrays that cannot be read to their end.
 local many = {}
 for k = 1, 32768 do many[k] = k == 1 or k == 3 or k == 10 end
@@ -64,7 +61,6 @@ for _, list in ipairs { {}, zilvo.array(2, { true }), many, { table.unpack(many,
 --> checkSeatSelected(10): Enabled False -> True
 --> SeatCheckBoxes: NumberOfSeatsAllowed 32768 -> 11
 --> fails: missing element: SeatCheckBoxes.AvailableSeatsAre: checkSeatSelected has no element 11
-
 -- A handler changes the seat that it is given, answers with other seats, or fails.
 for _, k in ipairs { 1, 3 } do box(k).Value = 1 end
 --> checkSeatSelected(1): Value 0 -> 1
@@ -89,7 +85,6 @@ pcall(setSeats, { true, true, false, false })
 --> SeatSpreadToWas(-3)
 --> fails as the handler did
 connection:disconnect()
-
 -- The marker lies over the player's own box and takes its clicks.
 local function point(x, y) return boxes:press(x, y) and boxes:release(x, y) end
 for _, seat in ipairs { 1, 2, 4, 8, 10, 3 } do boxes:MySeatIS(seat) end
@@ -107,7 +102,6 @@ for _, none in ipairs { 0, 11, -1 } do
   boxes:MySeatIS(9)
 end
 --> buttonSeatOwner: Visible True -> False, Visible False -> True, Visible True -> False, Visible False -> True, Visible True -> False, Visible False -> True
-
 -- Where a box was moved to is rounded, or is too far.
 local function mark(k, left, top)
   box(k).Left = left
@@ -120,19 +114,16 @@ mark(9, 151.5, 1400.5)
 pcall(mark, 5, 310, 32768)
 --> checkSeatSelected(5): Top 880 -> 32768
 --> fails: overflow: SeatCheckBoxes.MySeatIS: 32768 (Single) is out of the range of Integer
-
 -- Keys go round the boxes that are free, and the marker.
 for _, key in ipairs { "Tab", "Tab", "Tab", "Tab", "Tab", "Shift+Tab", "Space" } do boxes:keydown(key) end
 --> focus checkSeatSelected(3) -> checkSeatSelected(10), checkSeatSelected(10) -> checkSeatSelected(1), checkSeatSelected(1) -> buttonSeatOwner, buttonSeatOwner -> checkSeatSelected(2), checkSeatSelected(2) -> checkSeatSelected(3), checkSeatSelected(3) -> checkSeatSelected(2)
 --> checkSeatSelected(2): Value 0 -> 1
 --> SeatSpreadToWas(Seat2WasSelected)
-
 -- The number of seats is the host's to say.
 boxes.NumberOfSeatsAllowed = -2147483648
 --> SeatCheckBoxes: NumberOfSeatsAllowed Seat2WasSelected -> -2147483648
 boxes:invoke(0x68030000, "put", 11)
 --> SeatCheckBoxes: NumberOfSeatsAllowed -2147483648 -> 11
-
 -- One that is loaded reads no setting, takes the host's colours once, and shows the boxes of seven seats.
 boxes = zilvo.create("SeatCheckBoxes", {
   bag = { NumberOfSeatsAllowed = 3 }, ambient = { BackColor = 0x00123456, ForeColor = 0x00654321 },

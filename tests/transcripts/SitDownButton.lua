@@ -18,7 +18,6 @@ local sit = zilvo.create("SitDownButton", { ambient = { BackColor = 0x00123456, 
 --> optSeatSelected(10): Threed.SSOption in frameSeatSelector, Caption "1&0", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 9", Left 630, Top 1400, Width 495, Height 180, ToolTipText "Sit-down at Seat 10", TabIndex 10
 local selector, button = sit:widget("frameSeatSelector"), sit:widget("cmdSitDown")
 local function seat(k) return sit:widget("optSeatSelected", k) end
-
 -- The button opens the selector and closes it; a seat closes it.
 print(seat(4):click())
 --> prints false
@@ -46,7 +45,6 @@ for _ = 1, 2 do button:click() end
 -->   optSeatSelected(4): Value True -> False
 --> frameSeatSelector: Visible True -> False
 --> SitdownButtonWasClicked()
-
 -- Keys: one stop for all seats, whose letters take them.
 sit:on("SeatSelectedWas", function() return 99 end)
 for _, key in ipairs { "Tab", "Alt+1", "Enter", "Tab", "Tab", "Shift+Tab", "Escape", "Alt+1" } do sit:keydown(key) end
@@ -60,7 +58,6 @@ for _, key in ipairs { "Tab", "Alt+1", "Enter", "Tab", "Tab", "Shift+Tab", "Esca
 --> SeatSelectedWas(Seat1WasSelected)
 -->   gives 99
 --> focus none -> cmdSitDown
-
 -- Arrays: some cannot be read to their end; element 0 means nothing, and seats above keep what they have.
 local many = {}
 for k = 1, 32768 do many[k] = k < 10 end
@@ -82,7 +79,6 @@ end
 sit:AvailableSeatsAre { [0] = false, true, false, true }
 --> optSeatSelected(2): Enabled True -> False
 --> SitDownButton: NumberOfSeatsAllowed noSeatWasSelected -> Seat3WasSelected
-
 -- A handler closes the selector before the host is asked, or fails.
 local clicked = sit:on("SitdownButtonWasClicked", function() selector.Visible = false end)
 button:click()
@@ -95,7 +91,6 @@ pcall(function() button:click() end)
 --> frameSeatSelector: Visible False -> True
 --> SitdownButtonWasClicked()
 --> fails as the handler did
-
 -- The number of seats is the host's to say; any change of what surrounds it gives both colours; nothing is saved.
 sit:invoke(0x68030000, "put", -2147483648)
 --> SitDownButton: NumberOfSeatsAllowed Seat3WasSelected -> -2147483648

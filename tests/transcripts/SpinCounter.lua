@@ -13,7 +13,6 @@ local counter = zilvo.create("SpinCounter", { ambient = look })
 --> SpinButton: Height 23 -> 48
 --> SpinCounter: ControlHandedness 0 -> RighHandSpinCounter
 local spinner, label = counter:widget("SpinButton"), counter:widget("labelCardsInStack")
-
 -- A spin ends at its bound, and is reported there, too.
 for _, limit in ipairs { 0, -5, 1000, 999, 1 } do counter.MaximumLimit = limit end
 --> PropertyChanged MaximumLimit
@@ -33,7 +32,6 @@ for _, key in ipairs { "Tab", "Up", "Right", "Down", "Left" } do counter:keydown
 --> CounterValueHasChanged(0)
 --> PropertyChanged CounterValue
 --> CounterValueHasChanged(0)
-
 -- Sets within the bounds are shown, then reported; others are ignored.
 counter.MaximumLimit = 10
 --> SpinCounter: MaximumLimit 1 -> 10
@@ -107,7 +105,6 @@ pcall(set, "CounterValue", "many")
 --> fails: type mismatch: SpinCounter.CounterValue: "many" (String) does not convert to Integer
 pcall(set, "MaximumLimit", 32768)
 --> fails: overflow: SpinCounter.MaximumLimit: 32768 (Long) is out of the range of Integer
-
 -- On whichever side the arrows are mounted, both can be pressed.
 local function mount(side)
   for _, widget in ipairs { label, spinner } do
@@ -182,7 +179,6 @@ for _, side in ipairs { 0, 5, 65537, 4 } do counter:invoke(0x68030006, "put", si
 --> beep
 --> beep
 --> PropertyChanged ControlHandedness
-
 -- The width is fixed, the height is the host's.
 counter.surface.Height = 500025
 --> surface: Height 720 -> 500025, ScaleHeight 48 -> 33335
@@ -210,7 +206,6 @@ counter.extender.Width = 3000
 --> surface: Width 3000 -> 1500, ScaleWidth 200 -> 100
 --> size 1500 x 360
 --> labelCardsInStack: Height 9 -> 24
-
 -- What a handler does comes after the count was set.
 counter:on("CounterValueHasChanged", function(count)
   if count == 1 then return 555 end
@@ -226,7 +221,6 @@ pcall(set, "CounterValue", 0)
 -->   CounterValueHasChanged(1)
 -->     gives 555
 --> fails as the handler did
-
 -- Whichever ambient property changes, both colours are taken; the label keeps its own.
 for _, colour in ipairs { "BackColor", "ForeColor" } do counter.surface[colour] = 0 end
 --> surface: BackColor 0x00123456 -> 0x00000000, ForeColor 0x00654321 -> 0x00000000
@@ -237,7 +231,6 @@ spinner.Enabled = false
 --> SpinButton: Enabled True -> False
 print(spinner:spin("up"), spinner:click(), label:click())
 --> prints false false false
-
 -- A font that the host gives is shared with it; the ambient one and one of saved settings are copied.
 local font = zilvo.Font { Name = "Arial", Size = 8 }
 counter.Font = font
@@ -294,7 +287,6 @@ print(look.Font.Size, empty.ambient.Font.Size, saved.Font.Bold)
 --> prints 10.0 10.0 false
 full:save()
 --> saves Height Single 300, CounterValue Integer 1200, AllowNegNumbers Boolean True, MaximumLimit Integer 5000, ControlHandedness Long 77, Font Font "Verdana 12 bold"
-
 -- A setting that does not convert ends the loading; what was read before it stays.
 for _, bad in ipairs {
   { CounterValue = 32768 }, { AllowNegNumbers = "many" }, { MaximumLimit = -32769 }, { Height = "tall" },

@@ -22,7 +22,6 @@ local spread = zilvo.create("SpreadSeatButtons", { ambient = { BackColor = 0x001
 --> commandSpreadToSeats: CommandButton in panelSpreadSeatButton, Caption "Spread    Seats", BackColor 0x00C0C0C0, ForeColor 0x80000012, Font "Comic Sans MS 12", Left 40, Top 60, Width 1050, Height 820, ToolTipText "   Click here to select a Seat  ", TabIndex 1
 local boxes, ask = spread:widget("SpreadSeatBoxes"), spread:widget("commandSpreadToSeats")
 local function box(k) return boxes:widget("checkSeatSelected", k) end
-
 -- The button asks at each click; the boxes do what they are told, and what they tell comes out.
 spread:on("TellMeWhichSeatsAreAvailable", function()
   spread:AvailableSeatsAre { false, true, false, true, false, false, false }
@@ -50,14 +49,12 @@ for _, key in ipairs { "Tab", "Enter", "Space", "Escape", "Tab", "Space", "Shift
 spread:invoke(0x68030000, "put", 5)
 --> SpreadSeatButtons: NumberOfSeatsAllowed Seat7WasSelected -> Seat5WasSelected
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat7WasSelected -> Seat5WasSelected
-
 -- What the boxes refuse is refused, after what they did before.
 for _, seats in ipairs { {}, zilvo.array(2, { true }) } do pcall(spread.AvailableSeatsAre, spread, seats) end
 --> fails: subscript out of range: SpreadSeatButtons.AvailableSeatsAre: SeatCheckBoxes.AvailableSeatsAre: the array has no elements
 --> SpreadSeatButtons: NumberOfSeatsAllowed Seat5WasSelected -> Seat2WasSelected
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat5WasSelected -> Seat2WasSelected
 --> fails: subscript out of range: SpreadSeatButtons.AvailableSeatsAre: SeatCheckBoxes.AvailableSeatsAre: there is no element 1 in an array from 2 to 2
-
 -- A handler changes the seat for the next one, calls back, or fails.
 spread:on("SeatSpreadToWas", function(seat) return seat + 90 end)
 spread:on("SeatSpreadToWas", function(seat)
@@ -77,7 +74,6 @@ for _, k in ipairs { 2, 4 } do pcall(function() box(k):click() end) end
 --> SeatSpreadToWas(Seat4WasSelected)
 -->   gives 94
 --> fails as the handler did
-
 -- Boxes that the host has hidden are not asked for.
 boxes.Visible = false
 --> focus checkSeatSelected(4) -> none
@@ -85,7 +81,6 @@ boxes.Visible = false
 print(ask:click(), box(2):click())
 --> focus none -> commandSpreadToSeats
 --> prints true false
-
 -- Any change of what surrounds it gives both colours, loading does not; sizes are not followed, and nothing is saved.
 spread.ambient.UserMode = false
 --> surface: BackColor 0x8000000F -> 0x00123456, ForeColor 0x80000008 -> 0x00654321

@@ -9,7 +9,6 @@ local drill = zilvo.create("StartStopButtons")
 --> panelStop: Threed.SSPanel in panelStartStop, BackColor 0x00C0C0C0, ForeColor 0x80000012, Font "MS Sans Serif 8.25", Left 1360, Top 120, Width 1240, Height 735, TabIndex 3
 --> StopButton: CommandButton in panelStop, Caption "STOP", BackColor 0x00E0E0E0, ForeColor 0x80000012, Font "Comic Sans MS 12 bold", Left 120, Top 120, Width 1000, Height 495, ToolTipText "Click Stop to End Operation", TabIndex 4
 local start, stop = drill:widget("StartButton"), drill:widget("StopButton")
-
 -- New, both are enabled and START is the default button.
 for _, key in ipairs { "Tab", "Tab", "Shift+Tab", "Alt+s", "Escape" } do drill:keydown(key) end
 --> focus none -> StartButton, StartButton -> StopButton, StopButton -> StartButton
@@ -40,7 +39,6 @@ for _, key in ipairs { "Enter", "Tab", "Space" } do drill:keydown(key) end
 --> StopButton: Default False -> True
 --> StartButtonWasClicked()
 --> focus none -> StopButton
-
 -- Made ready to start from any state, without an event.
 drill:SetupForStarting()
 --> focus StopButton -> none
@@ -48,7 +46,6 @@ drill:SetupForStarting()
 --> StartButton: Enabled False -> True, Default False -> True
 --> StopButton: Default True -> False
 for id = 0x60030006, 0x60030007 do drill:invoke(id, "method") end
-
 -- Tool tips.
 drill.StartButtonToolTip = "Go"
 --> StartButton: ToolTipText "Click Start to Begin Operation" -> "Go"
@@ -61,7 +58,6 @@ drill.StopButtonToolTip = "Halt"
 for id = 0x68030000, 0x68030001 do pcall(drill.invoke, drill, id, "put", zilvo.Font {}) end
 --> fails: type mismatch: StartStopButtons.StopButtonToolTip: the font MS Sans Serif does not convert to String
 --> fails: type mismatch: StartStopButtons.StartButtonToolTip: the font MS Sans Serif does not convert to String
-
 -- A host that stops at once what was started, and fails.
 local strict = zilvo.create("StartStopButtons")
 --> created StartStopButtons 2
@@ -79,7 +75,6 @@ print(pcall(strict.key, strict, 13))
 -->   fails as the handler did
 --> fails as the handler did
 --> prints false stop
-
 -- Saved are the tool tips that were given; the designed ones are gone when a pair is loaded.
 strict:save()
 --> saves StartButtonToolTip String "", StopButtonToolTip String ""

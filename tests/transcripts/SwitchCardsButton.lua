@@ -5,7 +5,6 @@ local switch = zilvo.create("SwitchCardsButton")
 --> panelSwitch: Threed.SSPanel, Caption "Switch-Cards Button", BackColor 0x00A8B090, ForeColor 0x80000012, Font "Comic Sans MS 9.75", Width 1780, Height 700, ToolTipText "Use Alt-V+S to hide this button"
 --> commandSwitch: CommandButton in panelSwitch, Caption "Switch Cards", BackColor 0x00C0E0FF, ForeColor 0x80000012, Font "Comic Sans MS 12", Left 60, Top 40, Width 1660, Height 600, ToolTipText "   Click here to switch your 2nd-Cards...", TabIndex 1
 local button = switch:widget("commandSwitch")
-
 -- Every click says so; one on the rim of the panel does not. The button is neither default nor cancel button.
 print(switch:key(13), button:click(), button:click(), switch:press(70, 300), switch:release(1700, 300), switch:key(27))
 --> focus none -> commandSwitch
@@ -19,7 +18,6 @@ print(switch:keydown("Enter"), switch:keydown("Tab"), switch:keydown("Space"), s
 --> SwitchCardsButtonWasPressed()
 --> SwitchCardsButtonWasPressed()
 --> prints true true true false
-
 -- Nothing is saved, and the button stays where and as it is, whatever the size and the colours of the window.
 switch:save(true)
 --> saves nothing
@@ -29,7 +27,6 @@ local loaded = zilvo.create("SwitchCardsButton",
 --> surface: Width 1785 -> 3000, ScaleWidth 1785 -> 3000
 --> size 3000 x 720
 for _, name in ipairs { "BackColor", "ForeColor", "UserMode" } do loaded.ambient[name] = 0 end
-
 -- A host that fails.
 loaded:on("SwitchCardsButtonWasPressed", function() error("stop", 0) end)
 print(loaded:keydown("Tab"), pcall(loaded.key, loaded, 13))

@@ -10,7 +10,6 @@ local go = zilvo.create("paneledGOButton")
 --> GOButton.surface: BackColor 0x00FFFFFF, ForeColor 0x80000008, Width 990, Height 735, ScaleWidth 990, ScaleHeight 735
 --> GOButton.labelGO: Label, Caption "&GO", BackColor 0x8000000F, ForeColor 0x80000012, Font "Comic Sans MS 18 bold", Left 240, Top 80, Width 1095, Height 495
 --> GOButton.theGOButton: Shape, Shape 2, BorderWidth 3, BorderColor 0x80000008, FillColor 0x00008000, BackColor 0x00008000, Top 120, Width 960, Height 495
-
 -- The six forms, and what is none: the sign's failure is the whole control's.
 for shape = GOButtonIsARoundedSquare, GOButtonIsARectangle, -1 do go.GOButtonShape = shape end
 --> GOButton.theGOButton: Shape 2 -> 5, Shape 5 -> 4, Shape 4 -> 3, Shape 3 -> 2, Shape 2 -> 1, Shape 1 -> 0
@@ -27,13 +26,11 @@ for _, shape in ipairs { "4", 6, -1, 32767, 32768, -32769, "oval" } do pcall(put
 --> fails: overflow: paneledGOButton.GOButtonShape: GOButton.GOButtonShape: 32768 (Long) is out of the range of Integer
 --> fails: overflow: paneledGOButton.GOButtonShape: GOButton.GOButtonShape: -32769 (Long) is out of the range of Integer
 --> fails: type mismatch: paneledGOButton.GOButtonShape: "oval" (String) does not convert to Long
-
 -- A click says nothing, neither on the sign, which lies in front, nor on the panels.
 print(go:widget("GOButton"):click(), go:widget("panelGO", 1):click(), go:widget("panelGO", 2):click())
 --> prints false false false
 print(go:press(180, 500), go:release(180, 500), go:press(700, 500), go:release(700, 500), go:keydown("Alt+g"))
 --> prints true false true false false
-
 -- Nothing is saved, and the sign stays where and as it is, whatever the size and the colours of the window.
 go:save(true)
 --> saves nothing

@@ -22,7 +22,6 @@ local panel = zilvo.create("paneledSeatBoxes")
 --> SpreadSeatBoxes.checkSeatSelected(10): CheckBox in frameSeatSpread, Caption "10", BackColor 0x8000000F, ForeColor 0x80000012, Font "MS Sans Serif 8.25", Left 1100, Top 1400, Width 495, Height 195, Visible False, Enabled False, TabIndex 9
 local boxes, done = panel:widget("SpreadSeatBoxes"), panel:widget("commandDoneButton")
 local function box(k) return boxes:widget("checkSeatSelected", k) end
-
 -- The boxes do what the panel is told, and what they tell comes out; the button in front of them tells of its clicks.
 panel:AvailableSeatsAre { true, false, true, false, false, false, false }
 --> SpreadSeatBoxes.checkSeatSelected(1): Enabled False -> True
@@ -51,14 +50,12 @@ for _, key in ipairs { "Tab", "Space", "Tab", "Tab", "Enter", "Space", "Escape",
 --> DoneButtonWasClicked()
 --> DoneButtonWasClicked()
 --> focus commandDoneButton -> checkSeatSelected(1)
-
 -- What the boxes refuse is refused, after what they did before.
 for _, seats in ipairs { {}, zilvo.array(2, { true }) } do pcall(panel.AvailableSeatsAre, panel, seats) end
 --> fails: subscript out of range: paneledSeatBoxes.AvailableSeatsAre: SeatCheckBoxes.AvailableSeatsAre: the array has no elements
 --> paneledSeatBoxes: NumberOfSeatsAllowed Seat9WasSelected -> Seat2WasSelected
 --> SpreadSeatBoxes: NumberOfSeatsAllowed Seat9WasSelected -> Seat2WasSelected
 --> fails: subscript out of range: paneledSeatBoxes.AvailableSeatsAre: SeatCheckBoxes.AvailableSeatsAre: there is no element 1 in an array from 2 to 2
-
 -- A handler changes the seat for the next one, calls back, or fails.
 panel:on("SeatSpreadToWas", function(seat) return seat + 90 end)
 panel:on("SeatSpreadToWas", function(seat)
@@ -77,7 +74,6 @@ for _, k in ipairs { 3, 1 } do pcall(function() box(k):click() end) end
 --> SeatSpreadToWas(Seat1WasSelected)
 -->   gives 91
 --> fails as the handler did
-
 -- Whether the button is shown is saved, but no reason to save.
 panel:save()
 --> saves nothing
@@ -90,7 +86,6 @@ print(panel.DoneButtonIsVisible, done:click())
 --> prints false false
 local saved = panel:save()
 --> saves DoneButtonIsVisible Boolean False
-
 -- Nothing else is saved, and the host's colours are not followed.
 panel.ambient.ForeColor = 0x00654321
 for _, stored in ipairs { {}, saved, { DoneButtonIsVisible = "maybe" } } do

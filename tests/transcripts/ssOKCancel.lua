@@ -6,7 +6,6 @@ local pair = zilvo.create("ssOKCancel")
 --> panelCmdOK: Threed.SSPanel, BackColor 0x00C0C0C0, ForeColor 0x80000008, Font "MS Sans Serif 8.25 bold", Width 97, Height 113, TabIndex 2
 --> cmdOK: CommandButton in panelCmdOK, Default True, Caption "&OK", BackColor 0x00C0C0C0, ForeColor 0x80000012, Font "Comic Sans MS 12", Left 240, Top 240, Width 975, Height 615, Enabled False
 --> cmdCancel: CommandButton in panelCmdOK, Cancel True, Caption "&Cancel", BackColor 0x00C0C0C0, ForeColor 0x80000012, Font "Comic Sans MS 12 italic", Left 240, Top 840, Width 975, Height 615, TabIndex 1
-
 -- OK is disabled at first; Enter typed to the control says OK all the same.
 local ok = pair:widget("cmdOK")
 print(ok:click(), pair:keydown("Alt+o"), pair:key(13), pair:key(27))
@@ -15,7 +14,6 @@ print(ok:click(), pair:keydown("Alt+o"), pair:key(13), pair:key(27))
 --> prints false false true true
 print(pair:key(12), pair:key(14), pair:key(26), pair:key(28), pair:key("o"))
 --> prints false false false false false
-
 -- Every way to answer raises one event.
 pair.OKEnabled = true
 --> cmdOK: Enabled False -> True
@@ -39,7 +37,6 @@ for _, key in ipairs { "Tab", "Enter", "Shift+Tab", "Escape", "Alt+c", "Alt+O" }
 --> CancelWasClicked()
 --> focus cmdCancel -> cmdOK
 --> OKWasClicked()
-
 -- When Cancel is no cancel button, Escape answers as before.
 for _, name in ipairs { "Default", "Cancel" } do pair[name] = false end
 --> cmdOK: Default True -> False
@@ -58,7 +55,6 @@ pair:SetDefaultDefaults()
 for _, name in ipairs { "Default", "Cancel" } do pair[name] = true end
 --> PropertyChanged Default
 --> PropertyChanged Cancel
-
 -- A tool tip and italics for each.
 pair.OKToolTipText = "Deal"
 --> cmdOK: ToolTipText "" -> "Deal"
@@ -79,7 +75,6 @@ pair.ItalicCancel = false
 for id = 0x68030000, 0x68030001 do pcall(pair.invoke, pair, id, "put", zilvo.Font {}) end
 --> fails: type mismatch: ssOKCancel.OKToolTipText: the font MS Sans Serif does not convert to String
 --> fails: type mismatch: ssOKCancel.OKEnabled: the font MS Sans Serif does not convert to Boolean
-
 -- A host that answers itself while it is asked, and then fails.
 local strict = zilvo.create("ssOKCancel")
 --> created ssOKCancel 2
@@ -99,7 +94,6 @@ print(pcall(strict.key, strict, 13))
 -->     ssOKCancel: OKEnabled False -> True
 --> fails as the handler did
 --> prints false stop
-
 -- Saved and loaded, with what equals a default left out or kept. That OK was enabled is forgotten.
 local loaded = zilvo.create("ssOKCancel", { bag = strict:save() })
 --> saves Default Boolean False, ItalicOK Boolean False, ItalicCancel Boolean True
@@ -111,7 +105,6 @@ loaded = zilvo.create("ssOKCancel", { bag = strict:save(true) })
 --> created ssOKCancel 4
 --> cmdOK: Default True -> False
 --> ssOKCancel: Default True -> False
-
 -- Loaded from nothing. The buttons stay where they are, whatever the size and the colours of the window.
 loaded = zilvo.create("ssOKCancel", { bag = {}, width = 3000, ambient = { Font = zilvo.Font { Size = 20 } } })
 --> created ssOKCancel 5
@@ -120,7 +113,6 @@ loaded = zilvo.create("ssOKCancel", { bag = {}, width = 3000, ambient = { Font =
 --> ssOKCancel: ItalicOK False -> True
 --> size 3000 x 1695
 for _, name in ipairs { "BackColor", "ForeColor", "UserMode" } do loaded.ambient[name] = 0 end
-
 -- Loaded from settings of other kinds, and from what does not convert: that ends it at its key.
 local settings = { Default = 0, Cancel = "False", ItalicOK = 1, ItalicCancel = 0, OKToolTipText = 42 }
 settings.CancelToolTipText = true

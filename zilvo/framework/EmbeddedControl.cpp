@@ -63,7 +63,6 @@ EmbeddedControl::EmbeddedControl(Control& outer, Container& container, const Des
     const Single height = after.height != before.height ? after.height : Single{design.Height};
     live_ = true;
     throwUnlessOk(control().SetSize(width, height, &error), error);
-    followSize(width, height);
 }
 
 EmbeddedControl::~EmbeddedControl() {

@@ -102,16 +102,6 @@ TEST(Runtime, AThousandRoundsOfLoadingAndUnloadingLeaveNothingBehind) {
     EXPECT_FALSE(isInProcess(COMPONENT_FILE));
 }
 
-TEST(Runtime, ALoadedComponentLeavesTheProcessOnlyWhenNothingLives) {
-    Ref<Object> survivor;
-    {
-        const LoadedComponent component(COMPONENT_FILE);
-        survivor = component.create(u"ssOKCancel");
-    }
-    EXPECT_TRUE(toBoolean(get(*survivor, u"Cancel"))) << "its code is still there";
-    survivor = nullptr;
-}
-
 TEST(Runtime, FilesThatAreNoComponent) {
     const auto folder = std::filesystem::temp_directory_path() / "zilvo-runtime-test";
     std::filesystem::create_directories(folder);

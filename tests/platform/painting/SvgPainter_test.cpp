@@ -132,6 +132,19 @@ protected:
     std::string do_grouping() const override { return "\3"; }
 };
 
+TEST(SvgPainter, OnlySlopesAndCurvesAreSmooth) {
+    const auto draws = [](std::span<const Point> corners) {
+        SvgPainter painter(1500, 750);
+        painter.polygon(corners, {.fill = Black, .stroke = {}});
+        return painter.document();
+    };
+    const std::array<Point, 3> steps{{{0, 0}, {15, 0}, {15, 30}}};
+    EXPECT_NE(draws(steps).find(R"(points="0 0 1 0 1 2" shape-rendering="geometricPrecision" fill)"),
+              std::string::npos);
+    const std::array<Point, 4> square{{{0, 0}, {15, 0}, {15, 30}, {0, 30}}};
+    EXPECT_NE(draws(square).find(R"(points="0 0 1 0 1 2 0 2" fill)"), std::string::npos);
+}
+
 TEST(SvgPainter, NumbersAreShortFiniteAndOfNoLocale) {
     constexpr Single endless = std::numeric_limits<Single>::infinity();
     constexpr Single none = std::numeric_limits<Single>::quiet_NaN();

@@ -35,8 +35,8 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
         Integer expected;
     };
     const Case cases[] = {
-        {2.5F, 2},  {3.5F, 4},        {-2.5F, -2},   {-0.5F, 0},  {32767.4F, 32767}, {Long{-32768}, -32768},
-        {true, -1}, {u" +12.5 ", 12}, {u"1e2", 100}, {u"-7", -7}, {Colour{5}, 5}};
+        {2.5F, 2},  {3.5F, 4},  {-2.5F, -2},      {-0.5F, 0},    {32767.4F, 32767}, {Long{-32768}, -32768},
+        {true, -1}, {false, 0}, {u" +12.5 ", 12}, {u"1e2", 100}, {u"-7", -7},       {Colour{5}, 5}};
     for (const Case& tried : cases)
         EXPECT_EQ(toInteger(tried.value), tried.expected) << describe(tried.value);
 

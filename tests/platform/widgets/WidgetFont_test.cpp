@@ -15,20 +15,6 @@ std::size_t repaints(const GalleryHost& g, const Change& change) {
     return g->repaints() - before;
 }
 
-TEST(WidgetFont, AChangeOfTheObjectShowsOnTheWidget) {
-    const GalleryHost g;
-    const std::string designed = g.painted();
-    const FontRef font = fontOf(g, u"cmdPush0");
-    EXPECT_EQ(fontOf(g, u"cmdPush0"), font) << "always the same object";
-    EXPECT_EQ(repaints(g, [&] { EXPECT_NE(fontOf(g, u"cmdPush1"), font); }), 0U);
-    EXPECT_EQ(g.painted(), designed) << "asking for the object changes nothing";
-    EXPECT_EQ(repaints(g, [&] { font->put_Size(20); }), 1U);
-    EXPECT_NE(g.painted(), designed);
-    EXPECT_EQ(repaints(g, [&] { font->put_Size(20); }), 0U) << "it has that size already";
-    EXPECT_THROW(g.put(u"cmdPush0", u"Font", FontRef()), Failure);
-    EXPECT_EQ(fontOf(g, u"cmdPush0"), font);
-}
-
 TEST(WidgetFont, IsSharedBetweenWidgetsAndOutlivesThem) {
     const GalleryHost g;
     const FontRef own = fontOf(g, u"lblTable");

@@ -1,5 +1,4 @@
 -- A control inside another: calls go in, events come out with their variable; colours, sizes and input reach it.
-
 local outer = zilvo.create("Outer")
 --> created Outer
 --> Outer: Allowed 3
@@ -19,7 +18,6 @@ local outer = zilvo.create("Outer")
 local small = outer:widget("smallOne")
 local function keys(names) for name in names:gmatch("%S+") do outer:keydown(name) end end
 local function click(name, index) return small:widget(name, index):click() end
-
 -- Its event comes out with the very variable: what the host makes of it goes in.
 local choice = outer:on("Picked", function(which) return which == 1 and 3 or which == 2 and 0 or nil end)
 click("ssoPick", 1)

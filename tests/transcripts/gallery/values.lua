@@ -1,5 +1,4 @@
 -- Values of every kind on their way between a host and a control: properties, arguments, events, saved settings.
-
 local small = zilvo.create("Small")
 --> created Small
 --> Small: IsReady True, Allowed 3, Breadth 1200, Mood CalmMood, Font "MS Sans Serif 8.25", Ground 0x8000000F, Shown True, RunsInUserMode True
@@ -14,7 +13,6 @@ local small = zilvo.create("Small")
 local function put(name, ...)
     for _, value in ipairs { ... } do pcall(function() small[name] = value end) end
 end
-
 -- Properties take what converts to their kind; what does not is refused and changes nothing.
 put("IsReady", 0, "no"); put("Count", "12", 32768); put("Mood", 77); put("Ground", 0x00FF00); put("RunsInUserMode", true)
 --> Small: IsReady True -> False
@@ -83,7 +81,6 @@ pcall(small.key, small, "0")
 -->   gives "x"
 -->   fails: type mismatch: Small.Picked, value 1 that the handler gives: "x" (String) does not convert to Long
 --> fails as the handler did
-
 -- Settings are stored with their kinds; what equals its default may be left out.
 local bag = small:save()
 --> saves IsReady Boolean False, Count Integer 12, Allowed Long 2, Breadth Single 1400.5, Title String "König ♠ 🂡", Mood Long 77, Font Font "Arial 12"

@@ -1,5 +1,4 @@
 -- What each kind of widget does when the user or the code acts on it, whom it tells, and where keys and presses go.
-
 local g = zilvo.create("WidgetGallery")
 --> created WidgetGallery
 --> surface: BackColor 0x8000000F, ForeColor 0x80000008, Width 7080, Height 3660, ScaleWidth 472, ScaleHeight 244
@@ -45,7 +44,6 @@ local function each(names, act)
 end
 local function click(names) each(names, function(name) return at(name):click() end) end
 local function keys(names) each(names, function(name) return g:keydown(name) end) end
-
 -- The user's clicks.
 click "cmdPush2 optChoice2 optChoice2 optOther chkPick0 chkPick1"
 --> focus none -> cmdPush(2)
@@ -172,7 +170,6 @@ for _, form in ipairs { -1, 0, 5, 6 } do pcall(set, "shpTable", "Shape", form) e
 for _, name in ipairs { "mnuMore", "mnuBar" } do pcall(set, name, "Checked", true); set(name, "Checked", false) end
 --> fails: invalid property value: mnuMore.Checked cannot be True on a root, a submenu or a separator
 --> fails: invalid property value: mnuBar.Checked cannot be True on a root, a submenu or a separator
-
 -- Tab goes round, with one stop for a group of options and one for each ribbon button.
 g = zilvo.create("WidgetGallery")
 --> created WidgetGallery 2
@@ -307,7 +304,6 @@ g.extender.Height = 1500; local before = pictured(); g:press(2400, 200, 2); prin
 --> size 7080 x 1500
 --> pop-up mnuRoot
 --> prints 100 104 mnuRoot true
-
 -- The right button opens the menu, which takes all input while it is up; a press and a release on one item choose it.
 g = zilvo.create("WidgetGallery")
 --> created WidgetGallery 4
@@ -376,7 +372,6 @@ g:press(6000, 2400); pop(); keys "Escape"; print(g:release(6000, 2400))
 --> focus cmdPush(1) -> cmdPush(0)
 --> pop-up mnuRoot
 --> prints false
-
 -- A click is a press and a release on the same widget; the one in front takes it.
 print(drag(6000, 2400, 6900, 2600))
 --> CommandClicked(0)
