@@ -217,11 +217,51 @@ local scenes = {
     DeckButtons = {
         { "narrow", function(decks) decks.ObjectWidth = NarrowObject end },
         { "with its menu", function(decks)
+            decks:widget("menuCasinoDefaults", 10):click()
             decks:press(3900, 840, 2)
             for _, key in ipairs { "Down", "Right", "Down", "Down" } do decks:keydown(key) end
         end },
     },
+    ssOKCancel = { { "in use", function(pair)
+        pair.OKEnabled, pair.CancelToolTipText = true, "Leave"
+        pair:keydown("Tab")
+        pair:press(700, 1100)
+    end } },
+    verticalOK = { { "in use", function(ok) ok:widget("commandVerticalOK"):click() end } },
+    StartStopButtons = { { "running", function(drill) drill:widget("StartButton"):click() end } },
+    LetterButton = { { "in use", function(mark) mark.Letter = "Q" end } },
+    GOButton = { { "in use", function(go) go.GOButtonShape = GOButtonIsARoundedSquare end } },
+    PlusMinusButton = { { "subtracting", function(mode) mode:widget("ImagePlusMinus", 2):click() end } },
+    GamingCardSelection = {
+        { "in use", function(cards)
+            cards:widget("GamingCardButtons", 2):click()
+            cards:press(50, 50)
+            cards:widget("chkXButton", 0).Value = true
+            cards:widget("chkXButton", 0).Enabled = false
+            cards:widget("GamingCardButtons", 1).Enabled = false
+        end },
+        { "with a focus", function(cards) for _ = 1, 5 do cards:keydown("Tab") end end },
+    },
+    PlayerButtons = { { "in use", function(seats)
+        seats:SetupTheRadioButtons { true, false, true, false }
+        seats:SelectButton(4)
+        seats:widget("optPlayerSeatSelector", 6):click()
+    end } },
+    CardShufflingOptions = { { "in use", function(shuffle)
+        shuffle.CardShuffleMethod = SMBoxShuffleGeneric
+        shuffle:keydown("Tab")
+    end } },
+    SeatCheckBoxes = { { "in use", function(seats)
+        seats:AvailableSeatsAre { true, true, false, true, true, true, true }
+        for _, k in ipairs { 2, 5, 6 } do seats:widget("checkSeatSelected", k):click() end
+        seats:widget("checkSeatSelected", 7).Value = 2
+        seats:MySeatIS(4)
+    end, { bag = {} } } },
     SpinCounter = {
+        { "in use", function(counter)
+            counter:keydown("Tab")
+            counter:press(1300, 500)
+        end },
         { "left-hand", mounted(LeftHandSpinCounter) },
         { "right-hand", mounted(RighHandSpinCounter) },
         { "top mount", mounted(TopMountSpinCounter) },
