@@ -176,6 +176,9 @@ TEST(PlatformFacts, MessagesSayWhatFailed) {
              {[] { LoadedComponent("/proc"); }, "/proc is not a component: it is no file"},
              {[] { LoadedComponent("/proc/self/status"); }, "/proc/self/status is not a component: it is no loadable "
                                                             "module"},
+             {[] { StdFont({}).put_Name(u""); }, "Font.Name cannot be \"\" (String)"},
+             {[] { StdFont({}).put_Size(0); }, "Font.Size cannot be 0 (Single)"},
+             {[] { StdFont({}).put_Weight(1001); }, "Font.Weight cannot be 1001 (Integer)"},
              {[] { platform::Bitmap(0, 1); }, "the bitmap's width of 0 pixels is not 1 to 4096"},
              {[] { platform::Bitmap(1, 5000); }, "the bitmap's height of 5000 pixels is not 1 to 4096"},
              {[&] { (void)array.At(1); }, "there is no element 1 in an array from 2 to 2"},

@@ -237,9 +237,9 @@ counter.Font = font
 --> labelCardsInStack: Font "Comic Sans MS 9.75 bold italic" -> "Arial 8"
 --> SpinCounter: Font "Comic Sans MS 9.75 bold italic" -> "Arial 8"
 --> PropertyChanged Font
-font.Italic = true
---> labelCardsInStack: Font "Arial 8" -> "Arial 8 italic"
---> SpinCounter: Font "Arial 8" -> "Arial 8 italic"
+for _, name in ipairs { "Underline", "Strikethrough", "Italic" } do font[name] = true end
+--> labelCardsInStack: Font "Arial 8" -> "Arial 8 underline", Font "Arial 8 underline" -> "Arial 8 underline strikethrough", Font "Arial 8 underline strikethrough" -> "Arial 8 italic underline strikethrough"
+--> SpinCounter: Font "Arial 8" -> "Arial 8 italic underline strikethrough"
 print(counter.Font == font)
 --> prints true
 local empty = zilvo.create("SpinCounter", { bag = {}, ambient = look })
