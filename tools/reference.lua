@@ -260,8 +260,8 @@ local scenes = {
     SpinCounter = {
         { "in use", function(counter)
             counter:keydown("Tab")
-            counter:press(1300, 500)
-        end },
+            counter:press(1300, 300)
+        end, { height = 360 } },
         { "left-hand", mounted(LeftHandSpinCounter) },
         { "right-hand", mounted(RighHandSpinCounter) },
         { "top mount", mounted(TopMountSpinCounter) },

@@ -35,7 +35,7 @@ end
 local push = c:widget("CMDOK")
 assert(push == c:widget("cmdok") and push ~= c:widget("cmdCancel") and push.font == c:widget("cmdOK").Font)
 assert(c.surface == c.surface and c.surface ~= c.extender)
-c.cancel = true
+c.cancel, push.TabIndex = true, 0
 c:widget("cmdCancel").Caption = "Zur\u{fc}ck"
 equal(c:widget("cmdCancel").caption, "Zur\u{fc}ck")
 equal(table.concat(c.changes, " "), "Cancel")

@@ -115,6 +115,7 @@ TEST(SvgPainter, LinesAndFramesCoverWholePixels) {
     painter.rectangle({0, 0, 150, 75}, {.fill = {}, .stroke = Black}, 0);
     painter.rectangle({0, 0, 150, 15}, {.fill = {}, .stroke = Black}, 0);
     const std::string document = painter.document();
+    EXPECT_EQ(faultIn(document), "");
     for (const char* place :
          {R"(x="0" y="2" width="10" height="1" fill)", R"(x="2" y="1" width="2" height="2" fill)",
           R"(x="0.5" y="0.5" width="9" height="4" fill="none")", R"(x="0" y="0" width="10" height="1" fill="#000000")"})

@@ -129,8 +129,9 @@ TEST(Guids, TextThereAndBack) {
 }
 
 TEST(Texts, ConversionReplacesWhatIsInvalidAndKeepsTheRest) {
-    const String all = u"A\u00e9\u20ac\U0001f0a1";
+    const String all = u"\x7F\u0080\u07ff\u0800\uffff\U00010000\U0010ffff\U0001f0a1";
     EXPECT_EQ(toUtf16(toUtf8(all)), all);
+    EXPECT_EQ(toUtf8(all).size(), 1U + 2 + 2 + 3 + 3 + 4 + 4 + 4);
     EXPECT_EQ(toUtf8(String{u'a', 0xD800, u'b', 0xDC00}), "a\xEF\xBF\xBD"
                                                           "b\xEF\xBF\xBD");
     for (const char* invalid : {"\x80", "\xC0\x80", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"}) {

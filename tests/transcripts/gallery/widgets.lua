@@ -184,17 +184,16 @@ at"optChoice1".Enabled = false; at"ssoSeat2".Enabled = false; at"ssoSeat3".TabIn
 --> ssoSeat(2): Enabled True -> False
 --> ssoSeat(3): TabIndex 13 -> 11
 --> cmdPush(2): TabIndex 23 -> 19
-at"panelRibbons".Enabled = false; at"cmdPush1".Visible = false; at"optChoice2".Visible = false
+at"panelRibbons".Enabled = false; at"cmdPush1".Visible = false
 --> panelRibbons: Enabled True -> False
 --> cmdPush(1): Visible True -> False
---> optChoice(2): Visible True -> False
 for _ = 1, 10 do keys "Tab" end; keys "Shift+Tab"
---> focus none -> optChoice(3), optChoice(3) -> chkPick(0), chkPick(0) -> chkPick(1), chkPick(1) -> optOther, optOther -> sscToggle, sscToggle -> ssoSeat(1), ssoSeat(1) -> cmdPush(2), cmdPush(2) -> spnCount, spnCount -> cmdPush(0), cmdPush(0) -> optChoice(3), optChoice(3) -> cmdPush(0)
+--> focus none -> optChoice(2), optChoice(2) -> chkPick(0), chkPick(0) -> chkPick(1), chkPick(1) -> optOther, optOther -> sscToggle, sscToggle -> ssoSeat(1), ssoSeat(1) -> cmdPush(2), cmdPush(2) -> spnCount, spnCount -> cmdPush(0), cmdPush(0) -> optChoice(2), optChoice(2) -> cmdPush(0)
 -- What can no longer take input hands the keyboard on to the next.
 at"cmdPush0".Enabled = false; g:focus(); at"panelOptions".Enabled = false; g:focus()
 --> focus cmdPush(0) -> none
 --> cmdPush(0): Enabled True -> False
---> focus none -> optChoice(3), optChoice(3) -> none
+--> focus none -> optChoice(2), optChoice(2) -> none
 --> panelOptions: Enabled True -> False
 --> focus none -> chkPick(0)
 g:on("SSCheckClicked", function() at"panelThreeD".Visible = false end)
