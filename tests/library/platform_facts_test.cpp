@@ -1,6 +1,7 @@
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/ComponentRuntime.h"
 #include "zilvo/platform/component/ControlHost.h"
+#include "zilvo/platform/component/Resources.h"
 #include "zilvo/platform/painting/FontMetrics.h"
 
 #include <gtest/gtest.h>
@@ -88,6 +89,18 @@ TEST(PlatformFacts, TheClassicScheme) {
         text += ' ';
     }
     EXPECT_EQ(text, scheme);
+}
+
+TEST(PlatformFacts, ThePaletteOfToolboxPicturesAndWhatEntryPointsAreAskedFor) {
+    std::string text;
+    for (const char letter : std::string_view(".W#-RYGCBMrygcbm")) {
+        const auto* pixel = platform::ToolboxPicture::colourOf(letter);
+        text +=
+            std::to_string(pixel->red) + "," + std::to_string(pixel->green) + "," + std::to_string(pixel->blue) + " ";
+    }
+    EXPECT_EQ(text, "192,192,192 255,255,255 0,0,0 128,128,128 255,0,0 255,255,0 0,255,0 0,255,255 0,0,255 255,0,255 "
+                    "128,0,0 128,128,0 0,128,0 0,128,128 0,0,128 128,0,128 ");
+    EXPECT_EQ(platform::ApplicationInterface.text(), "{5D1F6C0C-64C2-4B0B-9B3E-5F3E0C6F9A11}");
 }
 
 TEST(PlatformFacts, TheBuiltInMetrics) {
