@@ -34,9 +34,9 @@ public:
     /// Sets Default and Cancel to True without reporting a change.
     void SetDefaultDefaults();
 
-    /// A click on Cancel, or Escape.
+    /// A click on Cancel, Enter while Cancel has the keyboard, or Escape.
     Event<> CancelWasClicked{*this};
-    /// A click on OK, or Enter: that also while OK is disabled.
+    /// A click on OK, or Enter unless Cancel has the keyboard: that also while OK is disabled.
     Event<> OKWasClicked{*this};
 
 private:
