@@ -17,8 +17,8 @@ public:
     String get_Letter();
     /// Only the first character of the text is taken.
     void put_Letter(const String& LetterNewValue);
-    /// Pixels from the control's left edge to the letter's place, 14 pixels wide with the letter in its middle; rounded. A
-    /// position that is no Integer fails with Overflow.
+    /// Pixels from the control's left edge to the letter's place, 14 pixels wide with the letter in its middle;
+    /// rounded. A position that is no Integer fails with Overflow.
     Integer get_LetterLeft();
     void put_LetterLeft(Integer LetterLeftNewValue);
     /// Pixels from the control's upper edge; as LetterLeft.
