@@ -1,10 +1,10 @@
 #include "hosts/console/Observer.h"
 
+#include "hosts/console/Describe.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <charconv>
-#include <nlohmann/json.hpp>
 
 namespace zilvo::console {
 
@@ -12,26 +12,16 @@ using namespace platform;
 
 namespace {
 
-std::string hexadecimal(std::uint32_t number) {
-    constexpr std::size_t Digits = 8;
-    std::array<char, Digits> digits{};
-    const auto written = std::to_chars(digits.data(), digits.data() + Digits, number, 16);
-    const auto count = static_cast<std::size_t>(written.ptr - digits.data());
-    std::string text = "0x" + std::string(Digits - count, '0');
-    for (std::size_t i = 0; i < count; ++i)
-        text += static_cast<char>(std::toupper(static_cast<unsigned char>(digits[i])));
+/// "0x00C0C0C0": with capital digits, as colours are written in the sources.
+std::string shownColour(Colour colour) {
+    auto text = hexadecimal(colour.value);
+    std::ranges::transform(text.begin() + 2, text.end(), text.begin() + 2,
+                           [](unsigned char digit) { return static_cast<char>(std::toupper(digit)); });
     return text;
 }
 
-/// The shortest decimal that reads back as the same Single.
-std::string decimal(Single number) {
-    std::array<char, 64> text{};
-    const auto written = std::to_chars(text.data(), text.data() + text.size(), number);
-    return {text.data(), written.ptr};
-}
-
 std::string inQuotes(StringView text) {
-    return nlohmann::json(toUtf8(text)).dump();
+    return Json(toUtf8(text)).dump();
 }
 
 /// "Arial 8.25 bold italic"; the weight as a number where it is neither normal nor bold.
@@ -56,16 +46,10 @@ std::string shownLong(Long number, const EnumerationDescription* enumeration) {
     return std::to_string(number);
 }
 
-std::string labelOf(const Widget& widget, const std::string& owner) {
-    auto label = owner + toUtf8(widget.name());
-    if (widget.isArrayElement()) label += "(" + std::to_string(widget.index()) + ")";
-    return label;
-}
-
 /// "CommandButton", or "CommandButton in panelCmdOK".
 std::string kindOf(const Widget& widget) {
     auto kind = toUtf8(widget.description().name);
-    if (const Widget* container = widget.parent()) kind += " in " + labelOf(*container, {});
+    if (const Widget* container = widget.parent()) kind += " in " + shownName(*container);
     return kind;
 }
 
@@ -99,7 +83,7 @@ std::string shownValue(const Variant& value, const EnumerationDescription* enume
     case Kind::String:
         return inQuotes(toString(value));
     case Kind::Colour:
-        return hexadecimal(toColour(value).value);
+        return shownColour(toColour(value));
     case Kind::Font:
         return shownFont(*value.find<FontRef>());
     case Kind::BooleanArray:
@@ -131,11 +115,11 @@ public:
         }
     }
 
-    void add(Part part) {
-        constexpr std::array identifying = {u"Name", u"Index"}; // in the label
+    /// Takes the part's readable members, but for those that say what another line says.
+    void add(Part part, std::array<StringView, 2> leftOut = {u"Name", u"Index"}) {
         for (const ClassDescription* at = &part.members->description(); at; at = at->base)
             for (const MemberDescription& member : at->members)
-                if (member.accessor(Access::Get) && std::ranges::count(identifying, member.name) == 0)
+                if (member.accessor(Access::Get) && std::ranges::count(leftOut, member.name) == 0)
                     part.read.push_back(&member);
         for (const MemberDescription* member : part.read)
             part.values.push_back(valueOf(part, *member));
@@ -145,7 +129,7 @@ public:
     std::string focus() const {
         HostedControl* control = object.hostedControl();
         const Widget* focused = control ? focusedOn(control->surface()) : nullptr;
-        return focused ? labelOf(*focused, {}) : "none";
+        return focused ? shownName(*focused) : "none";
     }
 
     static std::string valueOf(const Part& part, const MemberDescription& member) {
@@ -162,7 +146,7 @@ public:
 private:
     void addWidgets(const Surface& surface, const std::string& owner) {
         for (Widget& widget : surface) {
-            const auto label = labelOf(widget, owner);
+            const auto label = owner + shownName(widget);
             add({label, kindOf(widget), &widget, false, {}, {}});
             if (Surface* inner = widget.embeddedSurface()) {
                 add({label, {}, widget.embeddedMembers(), true, {}, {}});
@@ -215,15 +199,7 @@ void Observer::writeDifferences(const Watched& watched, const Part& part, const 
 }
 
 void Observer::watchExtender(Described& extender) {
-    // Its size is the surface's.
-    Watched& watched = *watched_.back();
-    watched.add({"extender", {}, &extender, false, {}, {}});
-    Part& part = watched.parts.back();
-    for (std::size_t at = part.read.size(); at-- > 0;)
-        if (part.read[at]->name == u"Width" || part.read[at]->name == u"Height") {
-            part.read.erase(part.read.begin() + static_cast<std::ptrdiff_t>(at));
-            part.values.erase(part.values.begin() + static_cast<std::ptrdiff_t>(at));
-        }
+    watched_.back()->add({"extender", {}, &extender, false, {}, {}}, {u"Width", u"Height"}); // the surface's
 }
 
 void Observer::forget(const Object& object) noexcept {

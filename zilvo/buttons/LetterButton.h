@@ -30,8 +30,9 @@ private:
 
     // clang-format off
     Label labelLetter{userControl, {
-        .Name = u"labelLetter", .Left = 90, .Top = 0, .Width = 210, .Height = 345, .Caption = u"A", .Align = Alignment::Centre,
-        .Transparent = true, .Reach = 75, .ForeColor = {0x000000FF}, .Font = {.Name = u"Comic Sans MS", .Size = 14.25F, .Weight = 700}, .ZOrder = 1}};
+        .Name = u"labelLetter", .Left = 90, .Top = 0, .Width = 210, .Height = 345, .Caption = u"A",
+        .Align = Alignment::Centre, .Transparent = true, .Reach = 75, .ForeColor = {0x000000FF},
+        .Font = {.Name = u"Comic Sans MS", .Size = 14.25F, .Weight = 700}, .ZOrder = 1}};
 
     Shape circleLetter{userControl, {
         .Name = u"circleLetter", .Left = 30, .Top = 30, .Width = 360, .Height = 345, .Shape = Shape::IsCircle,

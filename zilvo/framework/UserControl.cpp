@@ -94,7 +94,6 @@ void UserControl::setOwnSize(Single width, Single height) {
 }
 
 void UserControl::setSize(Single width, Single height) {
-    checkSize(width, height);
     if (width != width_ || height != height_) take(width, height);
     resize();
 }

@@ -29,11 +29,7 @@ struct Self {
     }
 
     Widget& widget() const noexcept { return *handle->widget; }
-    std::string name() const {
-        auto text = toUtf8(widget().name());
-        if (widget().isArrayElement()) text += "(" + std::to_string(widget().index()) + ")";
-        return text;
-    }
+    std::string name() const { return shownName(widget()); }
 
     LuaWidget* handle;
     ControlHost* host = nullptr;

@@ -195,12 +195,6 @@ std::optional<Access> accessToSet(const MemberDescription& member) {
 
 namespace {
 
-std::string shownName(const Widget& widget) {
-    auto name = toUtf8(widget.name());
-    if (widget.isArrayElement()) name += "(" + std::to_string(widget.index()) + ")";
-    return name;
-}
-
 /// A user's doings with one control, each of which can be described in a few words.
 class UserDeeds {
 public:

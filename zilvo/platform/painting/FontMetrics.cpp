@@ -83,7 +83,7 @@ std::int16_t advanceOf(char32_t point) noexcept {
 }
 
 /// Rounded up, so that nothing sticks out of a line.
-double wholePixels(double twips) noexcept {
+double upToPixels(double twips) noexcept {
     return std::ceil(twips / double{TwipsPerPixel}) * double{TwipsPerPixel};
 }
 
@@ -103,16 +103,16 @@ Single textWidth(StringView text, const FontLook& font) noexcept {
 }
 
 Single lineHeight(const FontLook& font) noexcept {
-    return ascent(font) + static_cast<Single>(wholePixels(emOf(font) * familyOf(font).descent));
+    return ascent(font) + static_cast<Single>(upToPixels(emOf(font) * familyOf(font).descent));
+}
+
+Single ascent(const FontLook& font) noexcept {
+    return static_cast<Single>(upToPixels(emOf(font) * familyOf(font).ascent));
 }
 
 Single capHeight(const FontLook& font) noexcept {
     constexpr double OfEm = 0.72;
-    return static_cast<Single>(wholePixels(emOf(font) * OfEm));
-}
-
-Single ascent(const FontLook& font) noexcept {
-    return static_cast<Single>(wholePixels(emOf(font) * familyOf(font).ascent));
+    return static_cast<Single>(upToPixels(emOf(font) * OfEm));
 }
 
 } // namespace zilvo::platform

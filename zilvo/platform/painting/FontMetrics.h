@@ -12,8 +12,8 @@ Single textWidth(StringView text, const FontLook& font) noexcept;
 
 /// The height of one line and how far its baseline lies below its top: whole pixels.
 Single lineHeight(const FontLook& font) noexcept;
-/// From the baseline to the top of a capital letter.
-Single capHeight(const FontLook& font) noexcept;
 Single ascent(const FontLook& font) noexcept;
+/// From the baseline to the top of a capital letter, whole pixels too.
+Single capHeight(const FontLook& font) noexcept;
 
 } // namespace zilvo::platform

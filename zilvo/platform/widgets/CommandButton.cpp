@@ -62,15 +62,14 @@ void CommandButton::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
     // A push button that has the keyboard takes the heavy frame from the default one: Enter presses it.
     const bool framed = isFocused() || (get_Default() && !anyHasFocus(surface()));
-    look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), framed);
+    const Rectangle face = look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), framed);
     Rectangle inner = area.inset(4 * TwipsPerPixel);
     if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};
-    const Single bevel = (framed ? 3 : 2) * TwipsPerPixel;
     Rectangle text;
     {
-        const PaintedArea face(painter, area.inset(bevel));
+        const PaintedArea shown(painter, face);
         text = paintCaption(
-            painter, {inner.left - bevel, inner.top - bevel, inner.width, inner.height},
+            painter, {inner.left - face.left, inner.top - face.top, inner.width, inner.height},
             {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()), .greyed = !get_Enabled()});
     }
     // A caption as wide as the face leaves the frame no place but the bevel.

@@ -88,7 +88,7 @@ void focus(Painter& painter, const Rectangle& area) {
     painter.rectangle(area, {.fill = std::nullopt, .stroke = Black, .dotted = true});
 }
 
-void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed, bool framed) {
+Rectangle buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed, bool framed) {
     fill(painter, area, face);
     const Rectangle inner = framed ? area.inset(Pixel) : area;
     if (framed) edges(painter, area, Black, Black);
@@ -99,6 +99,7 @@ void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed,
         edges(painter, inner, White, Black);
         edges(painter, inner.inset(Pixel), Light, Shadow);
     }
+    return inner.inset(2 * Pixel);
 }
 
 void dim(Painter& painter, const Rectangle& area, Rgb ground) {

@@ -22,8 +22,8 @@ void sunken(Painter& painter, const Rectangle& area);
 void etched(Painter& painter, const Rectangle& area, Single gapFrom, Single gapTo);
 /// The dotted frame of the widget that has the keyboard.
 void focus(Painter& painter, const Rectangle& area);
-/// A raised or pressed push-button face.
-void buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed, bool framed);
+/// A raised or pressed push-button face; gives the area inside its bevel.
+Rectangle buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pressed, bool framed);
 /// Greys what is drawn in the area: every other column of pixels in the ground's colour.
 void dim(Painter& painter, const Rectangle& area, Rgb ground);
 /// A small triangle in the middle of the area.

@@ -58,11 +58,10 @@ const ClassDescription& SSRibbon::description() const noexcept {
 void SSRibbon::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
     const bool down = get_Value() || isPressed();
-    look::buttonFace(painter, area, rgbOf(backColor_), down, outline_);
+    const Rectangle inside = look::buttonFace(painter, area, rgbOf(backColor_), down, outline_);
     if (const Bitmap* picture = down && pictureDown_ ? pictureDown_ : pictureUp_) {
         const Single width = static_cast<Single>(picture->width()) * TwipsPerPixel;
         const Single height = static_cast<Single>(picture->height()) * TwipsPerPixel;
-        const Rectangle inside = area.inset((outline_ ? 3 : 2) * TwipsPerPixel); // the bevel stays
         const Single shift = down ? TwipsPerPixel : 0;
         const PaintedArea shown(painter, inside);
         painter.bitmap(*picture, {wholePixels((inside.width - width) / 2) + shift,

@@ -39,10 +39,14 @@ Widget::Widget(Container& container, const Placement& place)
     surface().add(*this);
 }
 
-std::string describe(const Widget& widget, const char* member) {
+std::string shownName(const Widget& widget) {
     auto name = toUtf8(widget.name());
     if (widget.isArrayElement()) name += "(" + std::to_string(widget.index()) + ")";
-    return name + "." + member;
+    return name;
+}
+
+std::string describe(const Widget& widget, const char* member) {
+    return shownName(widget) + "." + member;
 }
 
 Integer Widget::get_Index() const {

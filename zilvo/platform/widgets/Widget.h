@@ -214,6 +214,8 @@ private:
     friend class Surface;
 };
 
+/// "cmdOK" or "optDeckCount(4)".
+std::string shownName(const Widget& widget);
 /// The message prefix for a failing widget member: "cmdOK.Width" or "optDeckCount(4).Width".
 std::string describe(const Widget& widget, const char* member);
 
