@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <charconv>
 #include <sstream>
 
 namespace zilvo::console {
@@ -27,6 +28,13 @@ Json accessOf(const MemberDescription& member) {
     for (const Access access : propertyAccesses)
         if (member.accessor(access)) list.push_back(nameOf(access));
     return list;
+}
+
+/// What an interface is, in the words that hosts ask for.
+void addFlags(Json& interface, std::uint16_t flags) {
+    interface["hidden"] = (flags & typeflags::Hidden) != 0;
+    interface["extensible"] = (flags & typeflags::NonExtensible) == 0;
+    interface["dispatchOnly"] = (flags & typeflags::Dispatchable) != 0 && (flags & typeflags::Dual) == 0;
 }
 
 Json memberJson(const MemberDescription& member) {
@@ -55,15 +63,20 @@ Json classJson(const ComponentDescription& component, const ClassEntry& entry) {
         events = {{"name", toUtf8(eventInterfaceNameOf(identity))},
                   {"id", identity.eventInterfaceId->text()},
                   {"members", list}};
+        addFlags(events, identity.eventInterfaceFlags);
     }
+    Json interface = {
+        {"name", toUtf8(interfaceNameOf(identity))}, {"id", identity.interfaceId.text()}, {"members", members}};
+    addFlags(interface, identity.interfaceFlags);
     return {
         {"name", toUtf8(identity.name)},
         {"classId", identity.classId.text()},
         {"progId", toUtf8(progIdOf(component.library, identity))},
         {"bitmap", identity.toolboxBitmap ? Json(*identity.toolboxBitmap) : Json()},
         {"miscStatus", identity.miscStatus ? Json(*identity.miscStatus) : Json()},
-        {"interface",
-         {{"name", toUtf8(interfaceNameOf(identity))}, {"id", identity.interfaceId.text()}, {"members", members}}},
+        {"control", identity.isControl()},
+        {"applicationObject", identity.isApplicationObject()},
+        {"interface", interface},
         {"events", events},
     };
 }
@@ -71,7 +84,8 @@ Json classJson(const ComponentDescription& component, const ClassEntry& entry) {
 Json enumerationJson(const EnumerationDescription& enumeration) {
     Json members = Json::array();
     for (const EnumerationMember& member : enumeration.members)
-        members.push_back({{"name", toUtf8(member.name)}, {"value", member.value}});
+        members.push_back(
+            {{"name", toUtf8(member.name)}, {"value", member.value}, {"helpString", toUtf8(member.helpString)}});
     return {{"name", toUtf8(enumeration.name)}, {"id", enumeration.id.text()}, {"members", members}};
 }
 
@@ -108,6 +122,7 @@ void writeClass(std::ostream& out, const ComponentDescription& component, const 
     const ClassIdentity& identity = entry.identity;
     out << "\nclass " << toUtf8(identity.name) << ' ' << identity.classId.text() << '\n';
     out << "  ProgID " << toUtf8(progIdOf(component.library, identity)) << '\n';
+    if (identity.isApplicationObject()) out << "  application object\n";
     if (identity.toolboxBitmap) out << "  toolbox bitmap " << *identity.toolboxBitmap << '\n';
     if (identity.miscStatus) out << "  misc status " << hexadecimal(*identity.miscStatus) << '\n';
     out << "  interface " << toUtf8(interfaceNameOf(identity)) << ' ' << identity.interfaceId.text() << '\n';
@@ -150,6 +165,7 @@ Json description(const ComponentDescription& component, const ClassEntry* only) 
               {"id", library.id.text()},
               {"version", versionOf(library)},
               {"locale", library.locale},
+              {"control", (library.flags & libraryflags::Control) != 0},
               {"helpString", toUtf8(library.helpString)}}},
             {"enumerations", enumerations},
             {"classes", classes}};
@@ -199,6 +215,11 @@ std::string hexadecimal(std::uint32_t number) {
     for (unsigned shift = 32; shift > 0; shift -= 4)
         text.push_back(digits[(number >> (shift - 4)) & 0xFU]);
     return text;
+}
+
+std::string decimal(Single number) {
+    std::array<char, 32> text{};
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
 }
 
 } // namespace zilvo::console

@@ -32,5 +32,7 @@ const platform::ClassEntry& findClass(const platform::ComponentDescription& comp
 
 /// "0x68030000"
 std::string hexadecimal(std::uint32_t number);
+/// The shortest decimal that reads back as the same Single; whole numbers without a fraction.
+std::string decimal(platform::Single number);
 
 } // namespace zilvo::console

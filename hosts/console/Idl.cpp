@@ -11,16 +11,16 @@ using namespace platform;
 
 namespace {
 
-/// What one of the compilers does not take is left out for it.
+/// What one of the compilers does not take is left out for it, here alone.
 constexpr const char* Prelude = R"(import "oaidl.idl";
 import "ocidl.idl";
 
 #ifdef __WIDL__
 #define HELP(text)
-#define EVENTS hidden
+#define EVENTS_ARE(attribute)
 #else
 #define HELP(text) [helpstring(text)]
-#define EVENTS hidden, nonextensible
+#define EVENTS_ARE(attribute) , attribute
 #endif
 
 )";
@@ -99,10 +99,31 @@ std::string memberLines(const MemberDescription& member) {
     return lines;
 }
 
+struct Attribute {
+    std::uint16_t flag;
+    const char* text;
+};
+
+/// The attributes that the flags stand for, each behind a comma.
+std::string attributesOf(std::uint16_t flags) {
+    constexpr std::array attributes = {
+        Attribute{typeflags::Control, "control"},
+        Attribute{typeflags::ApplicationObject, "appobject"},
+        Attribute{typeflags::Hidden, "hidden"},
+        Attribute{typeflags::Dual, "dual"},
+        Attribute{typeflags::NonExtensible, "nonextensible"},
+        Attribute{typeflags::OleAutomation, "oleautomation"},
+    };
+    std::string list;
+    for (const Attribute& attribute : attributes)
+        if ((flags & attribute.flag) != 0) list += std::string(", ") + attribute.text;
+    return list;
+}
+
 void writeEnumeration(std::ostream& out, const EnumerationDescription& enumeration) {
     out << "\n    typedef [" << uuid(enumeration.id) << "] enum\n    {\n";
     for (const EnumerationMember& member : enumeration.members)
-        out << "        HELP(" << quoted(member.name) << ") " << toUtf8(member.name) << " = " << member.value
+        out << "        HELP(" << quoted(member.helpString) << ") " << toUtf8(member.name) << " = " << member.value
             << (&member == &enumeration.members.back() ? "\n" : ",\n");
     out << "    } " << toUtf8(enumeration.name) << ";\n";
 }
@@ -110,7 +131,7 @@ void writeEnumeration(std::ostream& out, const EnumerationDescription& enumerati
 void writeClass(std::ostream& out, const ClassEntry& entry) {
     const ClassIdentity& identity = entry.identity;
     const std::string interfaceName = toUtf8(interfaceNameOf(identity));
-    out << "\n    [odl, " << uuid(identity.interfaceId) << ", hidden, dual, nonextensible, oleautomation]\n"
+    out << "\n    [odl, " << uuid(identity.interfaceId) << attributesOf(identity.interfaceFlags) << "]\n"
         << "    interface " << interfaceName << " : IDispatch\n    {\n";
     for (const MemberDescription& member : entry.description.members)
         out << memberLines(member);
@@ -118,7 +139,10 @@ void writeClass(std::ostream& out, const ClassEntry& entry) {
 
     const std::string eventInterfaceName = toUtf8(eventInterfaceNameOf(identity));
     if (identity.eventInterfaceId) {
-        out << "\n    [" << uuid(*identity.eventInterfaceId) << ", EVENTS]\n"
+        const bool isExtensible = (identity.eventInterfaceFlags & typeflags::NonExtensible) == 0;
+        const auto others = identity.eventInterfaceFlags & ~unsigned{typeflags::NonExtensible};
+        out << "\n    [" << uuid(*identity.eventInterfaceId) << attributesOf(static_cast<std::uint16_t>(others))
+            << (isExtensible ? "" : " EVENTS_ARE(nonextensible)") << "]\n"
             << "    dispinterface " << eventInterfaceName << "\n    {\n        properties:\n        methods:\n";
         for (const EventDescription& event : entry.description.events)
             out << "            [id(" << event.number << ")] void " << toUtf8(event.name) << "("
@@ -126,9 +150,8 @@ void writeClass(std::ostream& out, const ClassEntry& entry) {
         out << "    };\n";
     }
 
-    out << "\n    [" << uuid(identity.classId) << ", " << (identity.isControl() ? "control" : "appobject")
-        << "]\n    coclass " << toUtf8(identity.name) << "\n    {\n        [default] interface " << interfaceName
-        << ";\n";
+    out << "\n    [" << uuid(identity.classId) << attributesOf(identity.flags) << "]\n    coclass "
+        << toUtf8(identity.name) << "\n    {\n        [default] interface " << interfaceName << ";\n";
     if (identity.eventInterfaceId) out << "        [default, source] dispinterface " << eventInterfaceName << ";\n";
     out << "    };\n";
 }
@@ -139,7 +162,8 @@ std::string interfaceDefinition(const ComponentDescription& component, const Cla
     const LibraryIdentity& library = component.library;
     std::ostringstream out;
     out << Prelude << '[' << uuid(library.id) << ", version(" << versionOf(library) << "), lcid(" << library.locale
-        << "), control,\n helpstring(" << quoted(library.helpString) << ")]\n"
+        << ")" << ((library.flags & libraryflags::Control) != 0 ? ", control" : "") << ",\n helpstring("
+        << quoted(library.helpString) << ")]\n"
         << "library " << toUtf8(library.name) << "\n{\n    importlib(\"stdole2.tlb\");\n";
     for (const EnumerationDescription* enumeration : enumerationsOf(component, only))
         writeEnumeration(out, *enumeration);

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <optional>
 #include <sstream>
 
@@ -20,11 +19,8 @@ constexpr std::array<StringView, 14> commonMembers = {
     u"Enabled", u"ToolTipText", u"TabIndex", u"Caption", u"BackColor", u"ForeColor", u"Font",
 };
 
-/// The shortest decimal that reads back as the same Single; whole numbers without a fraction.
 Json numberJson(Single number) {
-    std::array<char, 32> text{};
-    const auto written = std::to_chars(text.data(), text.data() + text.size(), number);
-    return Json::parse(text.data(), written.ptr, nullptr, false);
+    return Json::parse(decimal(number), nullptr, false);
 }
 
 Json fontJson(const FontRef& font) {
@@ -75,12 +71,6 @@ std::string lowerCamelCase(StringView name) {
     for (std::size_t at = 0; isUpper(at) && (at == 0 || isUpper(at + 1) || at + 1 == text.size()); ++at)
         text[at] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[at])));
     return text;
-}
-
-std::string shownName(const Widget& widget) {
-    auto name = toUtf8(widget.name());
-    if (widget.isArrayElement()) name += "(" + std::to_string(widget.index()) + ")";
-    return name;
 }
 
 Json widgetsOf(const Surface& surface);

@@ -19,19 +19,19 @@ std::string fileName(const Resource& resource) {
 
 } // namespace
 
-std::string resourceTable(const ComponentDescription& component) {
+std::string resourceTable(const ComponentFile& component) {
     std::ostringstream out;
-    for (const Resource& resource : resourcesOf(component))
+    for (const Resource& resource : component.resources())
         out << std::left << std::setw(8) << toUtf8(resource.type) << std::setw(30) << toUtf8(resource.name)
             << std::right << std::setw(4) << resource.bytes.size() << " bytes\n";
-    for (const VersionString& string : component.version.strings)
+    for (const VersionString& string : component.description().version.strings)
         out << "        " << toUtf8(string.key) << " = " << toUtf8(string.value) << '\n';
     return out.str();
 }
 
-void extractResources(const ComponentDescription& component, const std::vector<std::string>& names,
+void extractResources(const ComponentFile& component, const std::vector<std::string>& names,
                       const std::filesystem::path& directory) {
-    const std::vector<Resource> resources = resourcesOf(component);
+    const auto resources = component.resources();
     std::vector<const Resource*> chosen;
     for (const Resource& resource : resources)
         if (names.empty()) chosen.push_back(&resource);
@@ -39,7 +39,7 @@ void extractResources(const ComponentDescription& component, const std::vector<s
         const auto at = std::ranges::find_if(
             resources, [&](const Resource& resource) { return sameName(resource.name, toUtf16(name)); });
         if (at == resources.end())
-            throw Failure(Status::Failed, toUtf8(component.library.name) + " has no resource " + name);
+            throw Failure(Status::Failed, toUtf8(component.description().library.name) + " has no resource " + name);
         chosen.push_back(&*at);
     }
     makeDirectory(directory);

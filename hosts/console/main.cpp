@@ -65,12 +65,12 @@ int transcript(const CommandLine& given) {
                : 1;
 }
 
-int list(const CommandLine&, const LoadedComponent& component) {
+int list(const CommandLine&, const ComponentFile& component) {
     std::cout << classTable(component.description());
     return 0;
 }
 
-int describe(const CommandLine& given, const LoadedComponent& component) {
+int describe(const CommandLine& given, const ComponentFile& component) {
     const ComponentDescription& description = component.description();
     const ClassEntry* only = given.className.empty() ? nullptr : &findClass(description, given.className);
     if (given.json)
@@ -124,11 +124,11 @@ int gallery(const CommandLine& given, const LoadedComponent& component) {
     return 0;
 }
 
-int resources(const CommandLine& given, const LoadedComponent& component) {
+int resources(const CommandLine& given, const ComponentFile& component) {
     if (given.directory.empty())
-        std::cout << resourceTable(component.description());
+        std::cout << resourceTable(component);
     else
-        extractResources(component.description(), given.resourceNames, given.directory);
+        extractResources(component, given.resourceNames, given.directory);
     return 0;
 }
 
@@ -147,6 +147,12 @@ int validateFile(const CommandLine& given) {
 }
 
 using Command = int(const CommandLine& given);
+
+/// A command on what a component file says, of which nothing is run.
+template <int (*Does)(const CommandLine& given, const ComponentFile& component)>
+int onFile(const CommandLine& given) {
+    return Does(given, ComponentFile(componentFile(given.component)));
+}
 
 /// A command on one component.
 template <int (*Does)(const CommandLine& given, const LoadedComponent& component)>
@@ -234,9 +240,9 @@ private:
     }
 
     void addDescriptions() {
-        add("list", "lists the classes: name, ProgID, class id", onComponent<list>);
+        add("list", "lists the classes: name, ProgID, class id", onFile<list>);
 
-        CLI::App& describes = add("describe", "writes the type description", onComponent<describe>);
+        CLI::App& describes = add("describe", "writes the type description", onFile<describe>);
         takeClass(describes, "one class only");
         describes.add_flag("--idl", given_.idl, "in the interface definition language")->excludes(takeJson(describes));
 
@@ -245,7 +251,7 @@ private:
         takeJson(inspects);
 
         CLI::App& lists = add("resources", "lists the bitmaps, interface ids and version record, or extracts them",
-                              onComponent<resources>);
+                              onFile<resources>);
         lists.add_option("names", given_.resourceNames, "which ones, if not all")
             ->type_name("NAME")
             ->needs(takeDirectory(lists));

@@ -54,7 +54,7 @@ assert(zilvo.alive == 3)
 assert(zilvo.describe().library.name == "ZILVO_ZilvoButtons")
 zilvo.create("Nothing")
 END
-expect 1 "script.lua:10: neither a loaded component nor the registrations in $store have a class Nothing" \
+expect 1 "script.lua:10: neither a known component nor the registrations in $store have a class Nothing" \
     run "$work/script.lua"
 
 for command in "$host" "$program run $demonstration"; do

@@ -75,7 +75,7 @@ while IFS='|' read -r name script message; do
 done <<'END'
 syntax|local a = 1\nx = = 2\n|2: unexpected symbol
 unfinished|local a = 1\nlocal function f(\n|3: <name> or '...' expected near <eof>
-missing-class|local a = 1\nlocal c = zilvo.create("Nothing")\n|2: neither a loaded component
+missing-class|local a = 1\nlocal c = zilvo.create("Nothing")\n|2: neither a known component
 error|\n\nerror("stop")\n|3: stop
 endless|local a = 1\nwhile true do pcall(error) end\n|2: the statement did not end in 2 s
 exit|local a = 1\nos.exit(0)\n|2: the statement ended the process with exit status 0

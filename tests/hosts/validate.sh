@@ -41,6 +41,7 @@ same-interface-id|FAILED  *identifiers|{9C4D21E7-0A6B-4F1C-8E55-3B7D90A1C211} st
 other-member-id|FAILED  *instances are as described|Faulty: the instance has .*1745027074.*Length.*, the class table .*1745027073
 known-class-refused|FAILED  *class factories|Faulty: .*{9C4D21E7-0A6B-4F1C-8E55-3B7D90A1C210}
 unknown-class-given|FAILED  *unknown classes and interfaces|expected 0x80040111 (class not available), came 0x00000000
+missing-event-number|FAILED  *file says what runs|TYPELIB 1 is another
 missing-event-number|FAILED  *member ids and event numbers|Faulty: the event TitleChanged has the number 3, not 2
 undeclared-event-number|FAILED  *events are raised as declared|click cmdPush: raises Pushed with the number 99, not 1
 event-argument-by-value|FAILED  *events are raised as declared|click cmdPush: raises Pushed with -1 (Integer) as Index, which is no reference
@@ -52,6 +53,16 @@ second-InitNew|FAILED  *lifecycle|Forwarder, InitNew while new: expected 0x8000f
 other-id-registered|FAILED  *registration|registers \[class\] id = {9C4D21E7-0A6B-4F1C-8E55-3B7D90A1C299}.*expected \[class\] id = {9C4D21E7-0A6B-4F1C-8E55-3B7D90A1C210}
 crash-while-loading|CRASHED  *loads and exports|ended
 END
+unset ZILVO_FAULT
+
+# What the file says is read without running any of it, even when that would end the program.
+export ZILVO_FAULT=crash-while-loading
+for command in list describe 'describe --json' 'describe Faulty --idl' resources; do
+    # shellcheck disable=SC2086
+    "$program" --component "$faulty" $command >"$work/out" 2>&1 || complain "$command failed"
+    prints 'Faulty\|TYPELIB' "$command"
+    ! grep -q 'is loaded' "$work/out" || complain "$command loaded the component"
+done
 unset ZILVO_FAULT
 
 # JSON and nothing else.

@@ -16,6 +16,10 @@ std::string hexadecimal(std::uint32_t number) {
     return out.str();
 }
 
+std::string flagsOf(std::uint16_t flags) {
+    return " flags " + hexadecimal(flags);
+}
+
 std::string typeOf(const Type& type) {
     return type.kind == Kind::Empty ? "-" : toUtf8(type.name());
 }
@@ -40,25 +44,29 @@ std::string argumentsOf(std::span<const ArgumentDescription> arguments) {
 std::vector<std::string> published(const ComponentDescription& component) {
     const LibraryIdentity& library = component.library;
     std::vector<std::string> lines = {"library " + toUtf8(library.name) + " " + library.id.text() + " version " +
-                                          versionOf(library) + " locale " + std::to_string(library.locale),
+                                          versionOf(library) + " locale " + std::to_string(library.locale) +
+                                          flagsOf(library.flags),
                                       toUtf8(library.helpString)};
     for (const EnumerationDescription* enumeration : component.enumerations) {
         lines.push_back("enumeration " + toUtf8(enumeration->name) + " " + enumeration->id.text());
         for (const EnumerationMember& member : enumeration->members)
-            lines.push_back(std::to_string(member.value) + " " + toUtf8(member.name));
+            lines.push_back(std::to_string(member.value) + " " +
+                            toUtf8(member.helpString == member.name ? member.name : u"another help string"));
     }
     for (const ClassEntry& entry : component.classes) {
         const ClassIdentity& identity = entry.identity;
         lines.push_back("class " + toUtf8(identity.name) + " " + identity.classId.text());
         if (identity.toolboxBitmap) lines.back() += " bitmap " + std::to_string(*identity.toolboxBitmap);
         if (identity.miscStatus) lines.back() += " misc " + hexadecimal(*identity.miscStatus);
-        lines.push_back("interface " + toUtf8(interfaceNameOf(identity)) + " " + identity.interfaceId.text());
+        lines.back() += flagsOf(identity.flags);
+        lines.push_back("interface " + toUtf8(interfaceNameOf(identity)) + " " + identity.interfaceId.text() +
+                        flagsOf(identity.interfaceFlags));
         for (const MemberDescription& member : entry.description.members)
             lines.push_back(hexadecimal(std::bit_cast<std::uint32_t>(member.id)) + accessesOf(member) + " " +
                             toUtf8(member.name) + " " + typeOf(member.type) + argumentsOf(member.arguments()));
         if (identity.eventInterfaceId)
             lines.push_back("events " + toUtf8(eventInterfaceNameOf(identity)) + " " +
-                            identity.eventInterfaceId->text());
+                            identity.eventInterfaceId->text() + flagsOf(identity.eventInterfaceFlags));
         for (const EventDescription& event : entry.description.events)
             lines.push_back(std::to_string(event.number) + " " + toUtf8(event.name) + argumentsOf(event.arguments()));
     }

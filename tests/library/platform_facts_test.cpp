@@ -187,8 +187,8 @@ TEST(PlatformFacts, MessagesSayWhatFailed) {
              {[&] { component.create(u"Nothing"); }, file + " has no class Nothing"},
              {[] { LoadedComponent("/nowhere/X.Ocx"); }, "there is no component file /nowhere/X.Ocx"},
              {[] { LoadedComponent("/proc"); }, "/proc is not a component: it is no file"},
-             {[] { LoadedComponent("/proc/self/status"); }, "/proc/self/status is not a component: it is no loadable "
-                                                            "module"},
+             {[] { LoadedComponent("/proc/self/status"); },
+              "/proc/self/status is not a component: at offset 0: the file is empty"},
              {[] { StdFont({}).put_Name(u""); }, "Font.Name cannot be \"\" (String)"},
              {[] { StdFont({}).put_Size(0); }, "Font.Size cannot be 0 (Single)"},
              {[] { StdFont({}).put_Weight(1001); }, "Font.Weight cannot be 1001 (Integer)"},

@@ -14,6 +14,7 @@ inline constexpr LibraryIdentity libraryIdentity{
     .minorVersion = 0,
     .locale = 1033,
     .helpString = u"ZILVO: Button Objects (4.45) --- Version 3.0x - 02-23-2009",
+    .flags = libraryflags::Control,
 };
 
 inline constexpr std::array<VersionString, 7> versionStrings = {{
@@ -69,7 +70,8 @@ inline constexpr std::array<ClassIdentity, 18> classIdentities = {{
     {u"SeatCheckBoxes", "{20988FD3-B31E-4866-B1F5-61623B8B081A}"_guid, "{3BC50BCA-FCA9-4770-9667-70F97DE1EC58}"_guid,
      "{C91A2B37-3C05-4E34-A8D7-0FE8C5C7426E}"_guid, 30005, ControlStatus},
     {u"ZilvoButtonGoodies", "{40609027-1B70-4F78-8216-BAE51719D00B}"_guid,
-     "{F28C3CB0-B74C-4D71-8EA4-C33DD1BDC86F}"_guid, std::nullopt, std::nullopt, std::nullopt},
+     "{F28C3CB0-B74C-4D71-8EA4-C33DD1BDC86F}"_guid, std::nullopt, std::nullopt, std::nullopt,
+     typeflags::ApplicationObject | typeflags::CanCreate | typeflags::Predeclared},
     {u"paneledSeatBoxes", "{77DBBBE4-2CAD-4CD4-9CFE-1FB6D2088929}"_guid, "{3681E1C5-36D0-4E48-A71D-756BA9B2D69C}"_guid,
      "{3E62004B-57C6-4D5A-ABF1-CFAE3859F8F7}"_guid, 30004, ControlStatus},
     {u"SwitchCardsButton", "{08ACF70C-D543-4ABA-A894-DAF1DB234ADF}"_guid, "{A18D196B-3C4B-4424-86AF-0BE74A911BEA}"_guid,

@@ -12,14 +12,14 @@ using namespace platform;
 namespace {
 
 template <class T>
-const T& upvalue(lua_State* L, int number) {
-    return *static_cast<const T*>(lua_touserdata(L, lua_upvalueindex(number)));
+T& upvalue(lua_State* L, int number) {
+    return *static_cast<T*>(lua_touserdata(L, lua_upvalueindex(number)));
 }
 
 /// A method of an application object, called without naming an instance.
 int callApplication(lua_State* L) {
-    Object& object = sessionOf(L).application(upvalue<LoadedComponent>(L, 1), upvalue<ClassEntry>(L, 2));
-    return callMember(L, object, upvalue<MemberDescription>(L, 3), Access::Method, 1);
+    Object& object = sessionOf(L).application(upvalue<KnownComponent>(L, 1), upvalue<const ClassEntry>(L, 2));
+    return callMember(L, object, upvalue<const MemberDescription>(L, 3), Access::Method, 1);
 }
 
 /// Pops the value. Goes round the metatable that a script may have given its globals.
@@ -34,14 +34,14 @@ void addGlobal(lua_State* L, StringView name) {
     lua_pop(L, 3);
 }
 
-void addGlobalsOf(lua_State* L, const LoadedComponent& component) {
+void addGlobalsOf(lua_State* L, KnownComponent& component) {
     for (const EnumerationDescription* enumeration : component.description().enumerations)
         for (const EnumerationMember& member : enumeration->members) {
             lua_pushinteger(L, member.value);
             addGlobal(L, member.name);
         }
     for (const ClassEntry& entry : component.description().classes) {
-        if (entry.identity.isControl()) continue;
+        if (!entry.identity.isApplicationObject()) continue;
         for (const MemberDescription& member : entry.description.members) {
             if (member.kind != MemberKind::Method) continue;
             pushPointer(L, component);
@@ -57,8 +57,8 @@ void addGlobalsOf(lua_State* L, const LoadedComponent& component) {
 
 void defineGlobals(lua_State* L) {
     Session& session = sessionOf(L);
-    for (; session.namedComponents < session.components.loaded().size(); ++session.namedComponents)
-        addGlobalsOf(L, session.components.loaded()[session.namedComponents]);
+    for (; session.namedComponents < session.components.known().size(); ++session.namedComponents)
+        addGlobalsOf(L, session.components.known()[session.namedComponents]);
 }
 
 } // namespace zilvo::console

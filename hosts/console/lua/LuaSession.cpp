@@ -2,7 +2,7 @@
 
 namespace zilvo::console {
 
-platform::Object& Session::application(const platform::LoadedComponent& component, const platform::ClassEntry& entry) {
+platform::Object& Session::application(platform::KnownComponent& component, const platform::ClassEntry& entry) {
     auto& instance = applications_[&entry];
     if (!instance) instance = component.application(entry.identity.name);
     return *instance;

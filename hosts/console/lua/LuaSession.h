@@ -37,7 +37,7 @@ public:
 
     /// The one instance of an application object, whose methods scripts call without naming one; made on
     /// first use.
-    platform::Object& application(const platform::LoadedComponent& component, const platform::ClassEntry& entry);
+    platform::Object& application(platform::KnownComponent& component, const platform::ClassEntry& entry);
     /// The components' living objects without the application objects above, which no script can let go of.
     std::size_t aliveForScripts() const { return components.liveObjects() - applications_.size(); }
 

@@ -5,6 +5,7 @@ namespace zilvo::console {
 std::span<const NamedCheck> validationChecks() {
     static constexpr std::array table = {
         NamedCheck{"loads and exports", checks::loads},
+        NamedCheck{"file says what runs", checks::fileAndRuntime},
         NamedCheck{"class factories", checks::classFactories},
         NamedCheck{"unknown classes and interfaces", checks::unknownClasses},
         NamedCheck{"stays loaded while in use", checks::staysLoadedInUse},

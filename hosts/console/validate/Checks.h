@@ -52,6 +52,7 @@ using platform::LoadedComponent;
 
 // ComponentChecks.cpp: the file, its class factories and how it registers itself
 void loads(Check& check, LoadedComponent& component);
+void fileAndRuntime(Check& check, LoadedComponent& component);
 void classFactories(Check& check, LoadedComponent& component);
 void unknownClasses(Check& check, LoadedComponent& component);
 void staysLoadedInUse(Check& check, LoadedComponent& component);

@@ -1,4 +1,5 @@
 #include "hosts/console/validate/Driver.h"
+#include "zilvo/platform/component/ComponentFile.h"
 #include "zilvo/platform/component/RegistrationStore.h"
 #include "zilvo/platform/component/RegistrationText.h"
 
@@ -42,6 +43,23 @@ class SilentSink final : public EventSink {
 
 void checks::loads(Check& /*check*/, LoadedComponent& /*component*/) {
     // Being here is enough: a file that lacks an entry point is no component.
+}
+
+void checks::fileAndRuntime(Check& check, LoadedComponent& component) {
+    check.step("the file");
+    const ComponentFile file(component.file());
+    const std::vector<Resource> running = resourcesOf(component.description());
+    check.expect(file.resources().size() == running.size(), "has " + std::to_string(file.resources().size()) +
+                                                                " resources, the loaded component " +
+                                                                std::to_string(running.size()));
+    for (const Resource& resource : running) {
+        const auto name = toUtf8(resource.type) + " " + toUtf8(resource.name);
+        const auto at = std::ranges::find_if(file.resources(), [&](const Resource& each) {
+            return each.type == resource.type && each.name == resource.name;
+        });
+        if (check.expect(at != file.resources().end(), "lacks " + name))
+            check.expect(at->bytes == resource.bytes, name + " is another than that of the loaded component");
+    }
 }
 
 void checks::classFactories(Check& check, LoadedComponent& component) {

@@ -126,13 +126,17 @@ void checks::controlsAndOthers(Check& check, LoadedComponent& component) {
     Unique bitmaps(check, "the toolbox bitmap");
     forEachClass(check, component, [&](const ClassEntry& entry) {
         const ClassIdentity& identity = entry.identity;
-        if (!createInstance(component, entry)->hostedControl()) {
+        const bool isControl = createInstance(component, entry)->hostedControl() != nullptr;
+        check.expect(identity.isControl() == isControl,
+                     isControl ? "is a control and is not described as one" : "is described as a control and is none");
+        if (!isControl) {
             check.expect(!identity.eventInterfaceId && entry.description.events.empty(),
                          "is no control and has events");
             check.expect(!identity.toolboxBitmap && !entry.toolboxPicture, "is no control and has a toolbox bitmap");
             check.expect(!identity.miscStatus, "is no control and has a misc status");
             return;
         }
+        check.expect(!identity.isApplicationObject(), "is a control and described as an application object");
         check.expect(identity.eventInterfaceId.has_value(), "is a control and has no event interface");
         if (identity.toolboxBitmap)
             bitmaps.add(std::to_string(*identity.toolboxBitmap), nameOf(entry));

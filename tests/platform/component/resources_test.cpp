@@ -8,9 +8,9 @@ namespace zilvo {
 
 namespace {
 
-Bytes resource(StringView name) {
+Bytes resource(StringView name, StringView type = u"RCDATA") {
     for (const Resource& each : resourcesOf(libraryModule().description()))
-        if (each.name == name) return each.bytes;
+        if (each.name == name && each.type == type) return each.bytes;
     return {};
 }
 
@@ -97,16 +97,15 @@ TEST(Resources, EveryControlHasItsOwnPictureAndInterfaceIds) {
         EXPECT_EQ(resource(toUtf16("_IID_" + capitals)).size(), 20U) << capitals;
         EXPECT_EQ(resource(toUtf16("_SRCIID_" + capitals)).size(), identity.isControl() ? 20U : 0U) << capitals;
         if (!identity.isControl()) continue;
-        pictures.push_back(resource(toUtf16(std::to_string(*identity.toolboxBitmap))));
+        pictures.push_back(resource(toUtf16(std::to_string(*identity.toolboxBitmap)), u"BITMAP"));
         EXPECT_EQ(pictures.back().size(), 760U) << capitals;
     }
     std::ranges::sort(pictures);
     EXPECT_EQ(std::ranges::adjacent_find(pictures), pictures.end()) << "two controls look the same";
     String names;
     for (const Resource& each : resourcesOf(libraryModule().description()))
-        if (each.name.find(u"OK") != String::npos || each.name.size() < 6)
-            names += String(each.type) + u" " + each.name + u" ";
-    EXPECT_TRUE(names.starts_with(u"BITMAP 30000 BITMAP 30001 BITMAP 30002 ") &&
+        if (each.name.find(u"OK") != String::npos || each.name.size() < 6) names += each.type + u" " + each.name + u" ";
+    EXPECT_TRUE(names.starts_with(u"TYPELIB 1 BITMAP 30000 BITMAP 30001 BITMAP 30002 ") &&
                 names.ends_with(u"BITMAP 30016 RCDATA _IID_SSOKCANCEL RCDATA _SRCIID_SSOKCANCEL RCDATA _IID_VERTICALOK "
                                 u"RCDATA _SRCIID_VERTICALOK VERSION 1 "))
         << toUtf8(names);
@@ -118,7 +117,7 @@ TEST(Resources, EveryControlHasItsOwnPictureAndInterfaceIds) {
 }
 
 TEST(Resources, TheVersionRecordReadsAsATree) {
-    const Bytes bytes = resource(u"1");
+    const Bytes bytes = resource(u"1", u"VERSION");
     VersionReader reader(bytes);
     ASSERT_NO_FATAL_FAILURE(reader.read(0, bytes.size()));
     EXPECT_EQ(reader.text, "VS_VERSION_INFO{4277077181 65536 196608 4 196608 4 0 0 4 2 0 0 0 "

@@ -23,7 +23,7 @@ Status getClassObject(ComponentModule& module, const Guid* classId, const Guid* 
     }
     const ClassEntry* entry = module.description().find(*classId);
     if (!entry) return Status::ClassNotAvailable;
-    const bool isApplication = *interfaceId == ApplicationInterface && !entry->identity.isControl();
+    const bool isApplication = *interfaceId == ApplicationInterface && entry->identity.isApplicationObject();
     if (*interfaceId != ClassFactoryInterface && !isApplication) return Status::NoInterface;
     return atTheEdge(
         nullptr, [] { return std::string(); },

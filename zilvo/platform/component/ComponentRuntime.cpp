@@ -1,10 +1,8 @@
 #include "zilvo/platform/component/ComponentRuntime.h"
 
-#include <array>
-#include <cstring>
+#include "zilvo/platform/component/ElfFile.h"
+
 #include <dlfcn.h>
-#include <elf.h>
-#include <fstream>
 
 namespace zilvo::platform {
 
@@ -12,39 +10,6 @@ namespace {
 
 [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& why) {
     throw Failure(Status::BadComponent, file.string() + " is not a component: " + why);
-}
-
-/// The loader maps what a file's headers promise and dies when the file ends before that, so they are checked first.
-void checkIsWhole(const std::filesystem::path& file) {
-    std::error_code error;
-    if (!std::filesystem::exists(file, error))
-        throw Failure(Status::FileNotFound, "there is no component file " + file.string());
-    if (!std::filesystem::is_regular_file(file, error)) refuse(file, "it is no file");
-    const std::uint64_t size = std::filesystem::file_size(file, error);
-    std::ifstream in(file, std::ios::binary);
-    if (error || !in) refuse(file, "it cannot be read");
-
-    const auto read = [&](std::uint64_t at, auto& value) {
-        std::array<char, sizeof(value)> bytes{};
-        in.seekg(static_cast<std::streamoff>(at));
-        in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        if (!in) refuse(file, "it is cut short");
-        std::memcpy(&value, bytes.data(), bytes.size());
-    };
-    const auto needs = [&](std::uint64_t from, std::uint64_t length) {
-        if (from > size || length > size - from) refuse(file, "it is cut short");
-    };
-    Elf64_Ehdr header{};
-    read(0, header);
-    if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0) refuse(file, "it is no loadable module");
-    if (header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_type != ET_DYN || header.e_phentsize != sizeof(Elf64_Phdr))
-        refuse(file, "it is a module of another kind");
-    needs(header.e_shoff, std::uint64_t{header.e_shnum} * header.e_shentsize);
-    for (unsigned i = 0; i < header.e_phnum; ++i) {
-        Elf64_Phdr segment{};
-        read(header.e_phoff + i * sizeof(Elf64_Phdr), segment);
-        if (segment.p_type != PT_NULL) needs(segment.p_offset, segment.p_filesz);
-    }
 }
 
 /// Adds the name to the missing ones when there is no such entry point.
@@ -58,7 +23,7 @@ Entry* entryPoint(void* library, const char* name, std::string& missing) {
 } // namespace
 
 LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(std::filesystem::absolute(file)) {
-    checkIsWhole(file_);
+    const ElfFile whole(file_);
     library_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
     if (!library_) refuse(file_, dlerror());
     std::string missing;

@@ -8,11 +8,11 @@
 
 namespace zilvo::platform {
 
-/// A component file that is loaded into the process. All calls throw Failures.
+/// A component file that is loaded into the process, which runs its code. All calls throw Failures.
 class LoadedComponent {
 public:
-    /// Fails with FileNotFound, or with BadComponent for a file that is cut short, no component of this machine, or
-    /// needs what is not there.
+    /// Fails with FileNotFound, or with BadComponent for a file that cannot be read, is cut short, no component of this
+    /// machine, or needs what is not there.
     explicit LoadedComponent(const std::filesystem::path& file);
     LoadedComponent(const LoadedComponent&) = delete;
     LoadedComponent& operator=(const LoadedComponent&) = delete;

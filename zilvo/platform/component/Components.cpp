@@ -20,18 +20,18 @@ RegisteredClass newestOf(StringView name, const RegistrationStore& store) {
             if (sameName(each.progId, name) || sameName(each.name, name) || each.classId == id)
                 newest = {registration.file, each.classId};
     if (!newest)
-        throw Failure(Status::ClassNotAvailable, "neither a loaded component nor the registrations in " +
+        throw Failure(Status::ClassNotAvailable, "neither a known component nor the registrations in " +
                                                      store.file().string() + " have a class " + toUtf8(name));
     return *newest;
 }
 
 } // namespace
 
-const LoadedComponent& Components::add(const std::filesystem::path& file) {
+KnownComponent& Components::add(const std::filesystem::path& file) {
     std::error_code error;
-    for (const LoadedComponent& component : loaded_)
+    for (KnownComponent& component : known_)
         if (std::filesystem::equivalent(component.file(), file, error)) return component;
-    return loaded_.emplace_back(file);
+    return known_.emplace_back(file);
 }
 
 Ref<Object> Components::create(StringView name) {
@@ -45,7 +45,7 @@ Ref<Object> Components::application(StringView name) {
 }
 
 Components::Found Components::find(StringView name) {
-    for (const LoadedComponent& component : loaded_)
+    for (KnownComponent& component : known_)
         if (component.description().find(name)) return {component, String(name)};
     return findRegistered(name);
 }
@@ -54,10 +54,10 @@ Components::Found Components::findRegistered(StringView name) {
     const auto file = RegistrationStore::usualFile();
     if (!file)
         throw Failure(Status::ClassNotAvailable,
-                      "no loaded component has a class " + toUtf8(name) + ", and there is no place for registrations");
+                      "no known component has a class " + toUtf8(name) + ", and there is no place for registrations");
     const RegistrationStore store(*file);
     const RegisteredClass found = newestOf(name, store);
-    const LoadedComponent* component = nullptr;
+    KnownComponent* component = nullptr;
     inContext([&] { return toUtf8(name) + ", registered in " + store.file().string(); },
               [&] { component = &add(found.file); });
     if (!component->description().find(found.classId))
@@ -68,7 +68,7 @@ Components::Found Components::findRegistered(StringView name) {
 
 std::size_t Components::liveObjects() const {
     std::size_t sum = 0;
-    for (const LoadedComponent& component : loaded_)
+    for (const KnownComponent& component : known_)
         sum += component.liveObjects();
     return sum;
 }

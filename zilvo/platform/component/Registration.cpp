@@ -11,7 +11,7 @@ Registration::TypeLibrary libraryOf(const LibraryIdentity& library) {
             .locale = 0, // found whatever the user's language
             .helpString = String(library.helpString),
             .helpDirectory = {},
-            .flags = u"control library"};
+            .flags = (library.flags & libraryflags::Control) != 0 ? u"control library" : u""};
 }
 
 Registration::Class classOf(const LibraryIdentity& library, const ClassIdentity& identity) {

@@ -5,8 +5,8 @@
 
 namespace zilvo::platform {
 
-/// What a component carries besides its code: toolbox bitmaps, interface ids, the version record. Made from its
-/// description, byte for byte as a host expects to find it in the file.
+/// What a component carries besides its code: the type library, toolbox bitmaps, interface ids, the version record.
+/// Made from its description, byte for byte as a host finds it in the file.
 
 /// A toolbox bitmap as it is drawn in the source, one letter a pixel:
 ///
@@ -29,12 +29,15 @@ struct ToolboxPicture {
 Bitmap bitmapOf(const ToolboxPicture& picture);
 
 struct Resource {
-    StringView type; ///< "BITMAP", "RCDATA" or "VERSION"
-    String name;     ///< "30015", "_IID_SSOKCANCEL", "1"
+    String type; ///< "TYPELIB", "BITMAP", "RCDATA" or "VERSION"
+    String name; ///< "30015", "_IID_SSOKCANCEL", "1"
     Bytes bytes;
+
+    friend bool operator==(const Resource&, const Resource&) = default;
 };
 
-/// All of a component's resources: bitmaps by id, interface ids in the order of the classes, the version record.
+/// All of a component's resources: the type library, bitmaps by id, interface ids in the order of the classes, the
+/// version record.
 std::vector<Resource> resourcesOf(const ComponentDescription& component);
 
 namespace detail {

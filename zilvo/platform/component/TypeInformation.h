@@ -58,7 +58,23 @@ private:
     std::array<std::uint8_t, 16> likely_{};
 };
 
-/// The identifiers under which a class is published.
+/// What a class or an interface is, and a library as a whole: bits, numbered as in every type library.
+namespace typeflags {
+inline constexpr std::uint16_t ApplicationObject = 0x1; ///< its members are called without naming an instance
+inline constexpr std::uint16_t CanCreate = 0x2;         ///< a host can make instances
+inline constexpr std::uint16_t Predeclared = 0x8;       ///< an instance is there before anybody makes one
+inline constexpr std::uint16_t Hidden = 0x10;           ///< not shown to people who look for something to use
+inline constexpr std::uint16_t Control = 0x20;
+inline constexpr std::uint16_t Dual = 0x40;          ///< called by the members' places as well as by their ids
+inline constexpr std::uint16_t NonExtensible = 0x80; ///< has the members described and no others
+inline constexpr std::uint16_t OleAutomation = 0x100;
+inline constexpr std::uint16_t Dispatchable = 0x1000; ///< called by member id
+} // namespace typeflags
+namespace libraryflags {
+inline constexpr std::uint16_t Control = 0x2; ///< describes controls
+} // namespace libraryflags
+
+/// The identifiers under which a class is published, and what it and its interfaces are.
 struct ClassIdentity {
     StringView name;
     Guid classId;
@@ -67,17 +83,23 @@ struct ClassIdentity {
     std::optional<Guid> eventInterfaceId;
     std::optional<Integer> toolboxBitmap;
     std::optional<std::uint32_t> miscStatus;
+    std::uint16_t flags = typeflags::Control | typeflags::CanCreate;
+    std::uint16_t interfaceFlags = typeflags::Hidden | typeflags::Dual | typeflags::NonExtensible |
+                                   typeflags::OleAutomation | typeflags::Dispatchable;
+    std::uint16_t eventInterfaceFlags = typeflags::Hidden | typeflags::NonExtensible | typeflags::Dispatchable;
 
-    constexpr bool isControl() const noexcept { return eventInterfaceId.has_value(); }
+    constexpr bool isControl() const noexcept { return (flags & typeflags::Control) != 0; }
+    constexpr bool isApplicationObject() const noexcept { return (flags & typeflags::ApplicationObject) != 0; }
 };
 
 struct LibraryIdentity {
     StringView name;
     Guid id;
-    Integer majorVersion;
-    Integer minorVersion;
-    Long locale;
+    Integer majorVersion = 0;
+    Integer minorVersion = 0;
+    Long locale = 0;
     StringView helpString;
+    std::uint16_t flags = libraryflags::Control;
 };
 
 struct VersionString {
@@ -88,7 +110,7 @@ struct VersionString {
 /// What a component file says of its own version, in US English.
 struct VersionRecord {
     /// Of the file and of the product: 3.0.0.4.
-    std::array<std::uint16_t, 4> version;
+    std::array<std::uint16_t, 4> version{};
     std::span<const VersionString> strings;
 };
 

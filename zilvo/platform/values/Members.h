@@ -19,7 +19,8 @@ using MemberId = Long;
 
 struct EnumerationMember {
     StringView name;
-    Long value;
+    Long value = 0;
+    StringView helpString = name;
 };
 
 struct EnumerationDescription {
