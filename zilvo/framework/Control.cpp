@@ -47,7 +47,14 @@ Status Control::SetSite(ControlSite& site, ErrorInfo* error) noexcept {
         require(stage_ == Stage::Created);
         stage_ = Stage::Sited;
         userControl.setSite(&site);
-        userControl.tellEmbedded(u"UserMode");
+        ErrorInfo failure;
+        const Status told = atTheEdge(
+            &failure, [] { return std::string(); }, [&] { userControl.tellEmbedded(u"UserMode"); });
+        if (!succeeded(told) && stage_ == Stage::Sited) { // the host goes on without the control
+            stage_ = Stage::Created;
+            userControl.setSite(nullptr);
+        }
+        throwUnlessOk(told, failure);
     });
 }
 
@@ -107,6 +114,12 @@ Status Control::Paint(Painter& painter, ErrorInfo* error) noexcept {
         }
         router_.popup().paint(painter);
     });
+}
+
+Widget* Control::focus() noexcept {
+    Widget* focused = nullptr;
+    edge("focus", nullptr, [&] { focused = router_.focus(); });
+    return focused;
 }
 
 void Control::Close() noexcept {

@@ -23,7 +23,7 @@ public:
     void Close() noexcept final;
     Surface& surface() noexcept final { return userControl; }
     Described& surfaceMembers() noexcept final { return userControl; }
-    Widget* focus() noexcept final { return router_.focus(); }
+    Widget* focus() noexcept final;
     Menu* lastPopup() noexcept final { return router_.popup().lastRoot(); }
 
 protected:

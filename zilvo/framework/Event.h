@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <vector>
 
 namespace zilvo {
@@ -22,16 +21,17 @@ public:
     Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
     ~Event() {
-        for (const Ref<Slot>& slot : slots_)
-            slot->eventEnds();
+        for (std::size_t i = 0; i < slots_.size(); ++i) // what a handler held may attach another as it goes
+            Ref<Slot>(slots_[i])->eventEnds();
     }
 
     /// The handler stays attached as long as the connection. An empty one fails with InvalidPropertyValue.
     Connection attach(Handler handler) {
         if (!handler) throw Failure(Status::InvalidPropertyValue, "an event handler cannot be empty");
         if (state_.raising == 0) sweep();
-        slots_.emplace_back(*std::make_unique<Slot>(owner_.module(), state_, std::move(handler)).release());
-        return Connection(slots_.back());
+        const Ref<Slot> slot(*std::make_unique<Slot>(owner_.module(), state_, std::move(handler)).release());
+        slots_.push_back(slot);
+        return Connection(slot);
     }
 
     /// For the control that owns the event. The control lives until the raise has ended; the caller touches nothing
@@ -70,15 +70,17 @@ private:
     };
 
     void sweep() noexcept {
-        if (!std::exchange(state_.hasDetached, false)) return;
-        // Out of the list before what the handlers hold is let go of, which may come back here.
-        std::vector<Ref<Slot>> detached;
-        const auto end = std::stable_partition(slots_.begin(), slots_.end(),
-                                               [](const Ref<Slot>& slot) { return slot->isConnected(); });
-        std::move(end, slots_.end(), std::back_inserter(detached));
-        slots_.erase(end, slots_.end());
-        for (const Ref<Slot>& slot : detached)
-            slot->eventEnds();
+        while (std::exchange(state_.hasDetached, false)) {
+            std::stable_partition(slots_.begin(), slots_.end(),
+                                  [](const Ref<Slot>& slot) { return slot->isConnected(); });
+            while (!slots_.empty() && !slots_.back()->isConnected()) {
+                // Out of the list before what its handler holds is let go of, which may come back here.
+                const Ref<Slot> detached = std::move(slots_.back());
+                slots_.pop_back();
+                state_.hasDetached = true;
+                detached->eventEnds();
+            }
+        }
     }
 
     Object& owner_;

@@ -61,6 +61,7 @@ ControlSite& UserControl::site() {
 
 void UserControl::put_BackColor(Colour newBackColor) {
     if (backColor_ == newBackColor) return;
+    const HeldSurface held(*this);
     backColor_ = newBackColor;
     viewChanged();
     tellEmbedded(u"BackColor");
@@ -68,6 +69,7 @@ void UserControl::put_BackColor(Colour newBackColor) {
 
 void UserControl::put_ForeColor(Colour newForeColor) {
     if (foreColor_ == newForeColor) return;
+    const HeldSurface held(*this);
     foreColor_ = newForeColor;
     viewChanged();
     tellEmbedded(u"ForeColor");
@@ -89,6 +91,7 @@ void UserControl::put_Height(Single newHeight) {
 void UserControl::setOwnSize(Single width, Single height) {
     if (resizing_ && width == width_ && height == height_) return; // the handler comes to rest
     checkSize(width, height);
+    const HeldSurface held(*this);
     take(width, height);
     resize();
 }
@@ -147,7 +150,15 @@ void UserControl::Beep() {
     if (site_) site_->Beep();
 }
 
-bool UserControl::acceptsInput() const noexcept {
+void UserControl::hold() noexcept {
+    owner_.AddRef();
+}
+
+void UserControl::letGo() noexcept {
+    owner_.Release();
+}
+
+bool UserControl::acceptsInput() const {
     if (!site_) return false;
     if (const Widget* widget = site_->embeddingWidget()) return widget->acceptsInput();
     return site_->extender().get_Visible();

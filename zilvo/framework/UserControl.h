@@ -54,7 +54,9 @@ public:
     Rectangle area() const noexcept override { return {0, 0, width_, height_}; }
     Colour backColor() const noexcept override { return backColor_; }
     Colour foreColor() const noexcept override { return foreColor_; }
-    bool acceptsInput() const noexcept override;
+    void hold() noexcept override;
+    void letGo() noexcept override;
+    bool acceptsInput() const override;
     void viewChanged() noexcept override;
     const Widget* embeddingWidget() const noexcept override;
     void surfaceMouseDown(Integer button, Integer shift, Point at) override;

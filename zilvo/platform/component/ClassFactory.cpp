@@ -41,10 +41,10 @@ Status getClassObject(ComponentModule& module, const Guid* classId, const Guid* 
 }
 
 Ref<Object> applicationObject(ComponentModule& module, const ClassEntry& entry) {
-    for (Object* living : module.applications_)
+    for (Object* living = module.applications_; living; living = living->nextApplication_)
         if (&living->description() == &entry.description) return Ref<Object>(*living);
     Ref<Object> made = entry.create(module);
-    module.applications_.push_back(made.get());
+    made->nextApplication_ = std::exchange(module.applications_, made.get());
     return made;
 }
 

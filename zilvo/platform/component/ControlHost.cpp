@@ -38,14 +38,24 @@ ControlHost::~ControlHost() {
     control_.Close();
 }
 
-void ControlHost::open(const PropertyBag* settings, std::optional<Single> width, std::optional<Single> height) {
-    ErrorInfo error;
+template <class Call>
+bool ControlHost::survives(const Call& call) {
     bool gone = false;
-    gone_ = &gone;
-    const Status status = settings ? control_.Load(*settings, &error) : control_.InitNew(&error);
-    if (gone) return throwUnlessOk(status, error); // an event while loading, and its handler closed the host
-    gone_ = nullptr;
+    bool* const outer = std::exchange(gone_, &gone);
+    ErrorInfo error;
+    const Status status = call(error);
+    if (!gone)
+        gone_ = outer;
+    else if (outer)
+        *outer = true;
     throwUnlessOk(status, error);
+    return !gone;
+}
+
+void ControlHost::open(const PropertyBag* settings, std::optional<Single> width, std::optional<Single> height) {
+    const bool open = survives(
+        [&](ErrorInfo& error) { return settings ? control_.Load(*settings, &error) : control_.InitNew(&error); });
+    if (!open) return;
     const Rectangle area = control_.surface().area();
     resize(width.value_or(area.width), height.value_or(area.height));
 }
@@ -62,9 +72,7 @@ void ControlHost::save(PropertyBag& settings) {
 }
 
 void ControlHost::resize(Single width, Single height) {
-    ErrorInfo error;
-    throwUnlessOk(control_.SetSize(width, height, &error), error);
-    live_ = true;
+    if (survives([&](ErrorInfo& error) { return control_.SetSize(width, height, &error); })) live_ = true;
 }
 
 bool ControlHost::input(const InputEvent& event) {

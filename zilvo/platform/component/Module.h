@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 namespace zilvo::platform {
 
@@ -34,8 +33,9 @@ private:
     const ComponentDescription& description_;
     std::size_t objects_ = 0;
     std::size_t locks_ = 0;
-    /// The application objects that are alive, one of each class; they leave when they die.
-    std::vector<Object*> applications_;
+    /// The application objects that are alive, one of each class, in a chain that they leave when they die. Nothing
+    /// here needs to be destroyed: objects may go away after the component's static ones.
+    Object* applications_ = nullptr;
 };
 
 /// The module of the component that the call is made in. Each component defines it, for its entry points.

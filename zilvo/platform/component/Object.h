@@ -43,7 +43,11 @@ protected:
     explicit Object(ComponentModule& module) noexcept : module_(module) { ++module_.objects_; }
     virtual ~Object() {
         --module_.objects_;
-        std::erase(module_.applications_, this);
+        for (Object** at = &module_.applications_; *at; at = &(*at)->nextApplication_)
+            if (*at == this) {
+                *at = nextApplication_;
+                break;
+            }
     }
 
 private:
@@ -53,9 +57,11 @@ private:
                   Variant* result, ErrorInfo* error) noexcept;
 
     ComponentModule& module_;
+    Object* nextApplication_ = nullptr;
     unsigned references_ = 0;
 
     friend struct std::default_delete<Object>;
+    friend Ref<Object> applicationObject(ComponentModule& module, const ClassEntry& entry);
 };
 
 /// The members of a widget, font or other described thing, called as a host calls those of an object.

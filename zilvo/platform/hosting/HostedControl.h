@@ -25,7 +25,7 @@ public:
     HostedControl(const HostedControl&) = delete;
     HostedControl& operator=(const HostedControl&) = delete;
 
-    /// The site must stay until Close.
+    /// The site must stay until Close. One that is refused, or fails while the control gets to know it, is not kept.
     virtual Status SetSite(ControlSite& site, ErrorInfo* error = nullptr) noexcept = 0;
     /// A new instance, without saved settings.
     virtual Status InitNew(ErrorInfo* error = nullptr) noexcept = 0;
@@ -48,7 +48,7 @@ public:
     virtual Surface& surface() noexcept = 0;
     /// The members of that surface: size, colours, inner size.
     virtual Described& surfaceMembers() noexcept = 0;
-    /// The widget that has the keyboard; null for none.
+    /// The widget that has the keyboard; null for none, or when the host fails to tell whether the control is shown.
     virtual Widget* focus() noexcept = 0;
     /// The root of the menu that was last popped up; null for none.
     virtual Menu* lastPopup() noexcept = 0;

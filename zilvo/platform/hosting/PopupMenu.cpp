@@ -178,7 +178,7 @@ Menu* PopupMenu::accessKey(char16_t letter) {
     return nullptr;
 }
 
-bool PopupMenu::canChoose(const Menu& item) noexcept {
+bool PopupMenu::canChoose(const Menu& item) {
     if (!item.isClickable()) return false;
     for (const Menu* at = &item; at; at = at->parent())
         if (!at->get_Enabled() || (at->parent() && !at->get_Visible())) return false;

@@ -27,7 +27,7 @@ public:
     Menu* accessKey(char16_t letter);
 
     /// Whether the user can choose it: enabled and shown, and so is all that leads to it.
-    static bool canChoose(const Menu& item) noexcept;
+    static bool canChoose(const Menu& item);
 
     void paint(Painter& painter) const;
 

@@ -4,6 +4,7 @@
 #include "zilvo/platform/values/StdFont.h"
 #include "zilvo/platform/values/Units.h"
 
+#include <exception>
 #include <optional>
 #include <span>
 
@@ -77,16 +78,27 @@ public:
     virtual Single measure(StringView text, const FontLook& font) const = 0;
 };
 
-/// Enters an area for the length of a scope.
+/// Enters an area for the length of a scope. A painter that fails to leave it fails the scope; when the scope has
+/// failed already, that first failure goes on.
 class PaintedArea {
 public:
     PaintedArea(Painter& painter, const Rectangle& area) : painter_(painter) { painter_.enter(area); }
-    ~PaintedArea() { painter_.leave(); }
+    ~PaintedArea() noexcept(false) {
+        if (std::uncaught_exceptions() == failures_) {
+            painter_.leave();
+            return;
+        }
+        try {
+            painter_.leave();
+        } catch (...) {
+        }
+    }
     PaintedArea(const PaintedArea&) = delete;
     PaintedArea& operator=(const PaintedArea&) = delete;
 
 private:
     Painter& painter_;
+    int failures_ = std::uncaught_exceptions();
 };
 
 } // namespace zilvo::platform

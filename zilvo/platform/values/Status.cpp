@@ -1,6 +1,5 @@
 #include "zilvo/platform/values/Status.h"
 
-#include <new>
 #include <utility>
 
 namespace zilvo::platform {

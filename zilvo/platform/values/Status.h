@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <new>
 #include <string>
 
 namespace zilvo::platform {
@@ -68,10 +69,15 @@ Status statusOfCurrentException(ErrorInfo* error, const std::string& context) no
 
 namespace detail {
 
-/// Kept out of the way of the calls that succeed.
+/// Kept out of the way of the calls that succeed. Without memory for the context the message stands alone.
 template <class Context>
 [[gnu::cold, gnu::noinline]] Status failedAtTheEdge(ErrorInfo* error, const Context& context) noexcept {
-    return statusOfCurrentException(error, context());
+    std::string name;
+    try {
+        name = context();
+    } catch (const std::bad_alloc&) {
+    }
+    return statusOfCurrentException(error, name);
 }
 
 } // namespace detail

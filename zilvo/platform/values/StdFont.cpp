@@ -50,8 +50,11 @@ template <class T>
 void StdFont::change(T& member, const T& value) {
     if (member == value) return;
     member = value;
-    for (FontObserver* observer : observers_)
-        observer->FontChanged();
+    const auto alive = weak_from_this().lock(); // whoever is told may let go of what has the font
+    ++telling_;
+    for (std::size_t i = 0; i < observers_.size(); ++i)
+        if (observers_[i]) observers_[i]->FontChanged();
+    if (--telling_ == 0) std::erase(observers_, nullptr);
 }
 
 void StdFont::put_Name(const String& newName) {
@@ -103,7 +106,10 @@ void StdFont::attach(FontObserver& observer) {
 }
 
 void StdFont::detach(FontObserver& observer) noexcept {
-    std::erase(observers_, &observer);
+    if (telling_ == 0)
+        std::erase(observers_, &observer);
+    else
+        std::ranges::replace(observers_, &observer, nullptr);
 }
 
 } // namespace zilvo::platform

@@ -36,7 +36,7 @@ protected:
 };
 
 /// The font object that widgets hand out and take: shared, so that a change of a member shows everywhere.
-class StdFont final : public Described {
+class StdFont final : public Described, public std::enable_shared_from_this<StdFont> {
 public:
     /// Fonts outlive the component that asked for them, so they are made here and copy the design.
     static FontRef make(const FontDesign& design);
@@ -74,7 +74,7 @@ public:
     bool sameMembers(const StdFont& other) const noexcept;
     const ClassDescription& description() const noexcept override;
 
-    /// The observer must detach before it dies.
+    /// The observer must detach before it dies; it may do so, and others with it, while it is told of a change.
     void attach(FontObserver& observer);
     void detach(FontObserver& observer) noexcept;
 
@@ -89,7 +89,8 @@ private:
     bool italic_;
     bool underline_;
     bool strikethrough_;
-    std::vector<FontObserver*> observers_;
+    std::vector<FontObserver*> observers_; ///< null where one has detached while they are told
+    unsigned telling_ = 0;
 };
 
 } // namespace zilvo::platform

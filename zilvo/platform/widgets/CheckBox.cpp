@@ -1,5 +1,7 @@
 #include "zilvo/platform/widgets/CheckBox.h"
 
+#include "zilvo/platform/widgets/Surface.h"
+
 namespace zilvo::platform {
 
 namespace {
@@ -19,6 +21,7 @@ void CheckBox::change(Integer newValue) {
         throw Failure(Status::InvalidPropertyValue,
                       platform::describe(*this, "Value") + " cannot be " + platform::describe(Variant(newValue)));
     value_ = newValue;
+    const HeldSurface held(surface());
     changed();
     Integer index = this->index();
     click_(index);

@@ -7,7 +7,7 @@ namespace zilvo::platform {
 
 namespace {
 
-bool anyHasFocus(const Surface& surface) noexcept {
+bool anyHasFocus(const Surface& surface) {
     for (const Widget& widget : surface)
         if (widget.isFocused() && dynamic_cast<const CommandButton*>(&widget)) return true;
     return false;

@@ -1,5 +1,7 @@
 #include "zilvo/platform/widgets/OptionButton.h"
 
+#include "zilvo/platform/widgets/Surface.h"
+
 namespace zilvo::platform {
 
 namespace {
@@ -28,12 +30,13 @@ void OptionButton::put_Value(bool newValue) {
 void OptionButton::select() {
     if (get_Value()) return;
     container().selectedOption = this;
+    const HeldSurface held(surface());
     changed();
     Integer index = this->index();
     click_(index);
 }
 
-bool OptionButton::isTabStop() const noexcept {
+bool OptionButton::isTabStop() const {
     const OptionButton* selected = container().selectedOption;
     return selected && selected->acceptsInput() ? selected == this : leadsGroup();
 }

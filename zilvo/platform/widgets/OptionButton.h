@@ -33,7 +33,7 @@ public:
     void put_Value(bool newValue);
 
     const ClassDescription& description() const noexcept override;
-    bool isTabStop() const noexcept override;
+    bool isTabStop() const override;
     void userClick() override { select(); }
     bool isInGroupWith(const Widget& other) const noexcept override;
     void paint(Painter& painter) const override;

@@ -29,7 +29,7 @@ void SSOption::userClick() {
     click_(index, value);
 }
 
-bool SSOption::isTabStop() const noexcept {
+bool SSOption::isTabStop() const {
     const SSOption* selected = container().selectedSSOption;
     return selected && selected->acceptsInput() ? selected == this : leadsGroup();
 }

@@ -53,8 +53,11 @@ public:
     virtual Rectangle area() const noexcept = 0;
     virtual Colour backColor() const noexcept = 0;
     virtual Colour foreColor() const noexcept = 0;
-    /// Whether the user can reach the surface at all.
-    virtual bool acceptsInput() const noexcept = 0;
+    /// Keep the control alive between them: whatever the host is told may make it let go of the control.
+    virtual void hold() noexcept = 0;
+    virtual void letGo() noexcept = 0;
+    /// Whether the user can reach the surface at all. Fails as the host does.
+    virtual bool acceptsInput() const = 0;
     virtual void viewChanged() noexcept = 0;
     /// The widget that embeds the surface's control in another control; null for a control that a host drives.
     virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
@@ -83,6 +86,18 @@ private:
 
     Widget* first_ = nullptr;
     Widget* last_ = nullptr;
+};
+
+/// Keeps the control of a surface, and all its widgets, alive for a scope.
+class HeldSurface {
+public:
+    explicit HeldSurface(Surface& surface) noexcept : surface_(surface) { surface_.hold(); }
+    HeldSurface(const HeldSurface&) = delete;
+    HeldSurface& operator=(const HeldSurface&) = delete;
+    ~HeldSurface() { surface_.letGo(); }
+
+private:
+    Surface& surface_;
 };
 
 } // namespace zilvo::platform

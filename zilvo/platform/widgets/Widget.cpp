@@ -66,6 +66,7 @@ void Widget::place(Single Rectangle::*edge, Single value) {
     if (!std::isfinite(twips) || (isSize && twips < 0))
         throw Failure(Status::InvalidPropertyValue, describe(*this, member) + " cannot be " + describe(Variant(value)));
     bounds_.*edge = twips;
+    const HeldSurface held(surface());
     changed();
     if (isSize) sizeChanged();
 }
@@ -123,13 +124,13 @@ void Widget::put_TabIndex(Integer newTabIndex) {
     tabIndex_ = newTabIndex;
 }
 
-bool Widget::acceptsInput() const noexcept {
+bool Widget::acceptsInput() const {
     if (!visible_ || !enabled_) return false;
     if (const Widget* outer = parent()) return outer->acceptsInput();
     return surface().acceptsInput();
 }
 
-bool Widget::leadsGroup() const noexcept {
+bool Widget::leadsGroup() const {
     bool passed = false;
     for (const Widget& other : surface()) {
         passed = passed || &other == this;

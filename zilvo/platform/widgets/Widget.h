@@ -141,12 +141,12 @@ public:
     // Input, for the input router only.
 
     /// Whether the user can act on it: shown and enabled, and so is everything that it lies in.
-    bool acceptsInput() const noexcept;
+    bool acceptsInput() const;
     /// Whether a pointer press can land on it; what cannot be hit lets the press through.
     virtual bool isHit() const noexcept { return true; }
     virtual bool takesFocus() const noexcept { return false; }
     /// Whether Tab stops here; an exclusive group has one stop.
-    virtual bool isTabStop() const noexcept { return takesFocus(); }
+    virtual bool isTabStop() const { return takesFocus(); }
     /// The letter that, typed with Alt, acts on it; 0 for none.
     virtual char16_t accessKey() const noexcept { return 0; }
     /// Whether a user's click on it reaches anybody.
@@ -166,7 +166,7 @@ public:
     void setFocused(bool focused) noexcept { focused_ = focused; }
     void setPressed(bool pressed) noexcept;
     /// One that was disabled or hidden from code no longer shows the focus; the keyboard goes on with the next input.
-    bool isFocused() const noexcept { return focused_ && acceptsInput(); }
+    bool isFocused() const { return focused_ && acceptsInput(); }
     bool isPressed() const noexcept { return pressed_; }
 
     /// Draws the widget into the area that it paints, without its children. Never changes state.
@@ -187,7 +187,7 @@ protected:
     /// For a widget whose inside follows its size: runs after its width or height was set.
     virtual void sizeChanged() {}
     /// Whether none of its group that takes input comes before it in Tab order.
-    bool leadsGroup() const noexcept;
+    bool leadsGroup() const;
     /// Takes on the size that the inside has given itself; twips.
     void followSize(Single width, Single height) noexcept;
     static const ClassDescription commonMembers;
