@@ -69,8 +69,9 @@ Status invoke(Described& target, StringView name, Access how, std::span<Variant>
               ErrorInfo* error) noexcept {
     const auto* member = target.description().find(name);
     if (!member) return unknownMember(target.description(), name, error);
+    const StringView className = target.description().name; // the target may be gone when the call has failed
     return atTheEdge(
-        error, [&] { return toUtf8(target.description().name) + "." + toUtf8(member->name); },
+        error, [&] { return toUtf8(className) + "." + toUtf8(member->name); },
         [&] { access(target, *member, how, arguments, result); });
 }
 

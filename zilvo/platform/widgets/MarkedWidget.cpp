@@ -6,7 +6,7 @@ void MarkedWidget::paintGround(Painter& painter) const {
     if (!transparent_) painter.rectangle(drawnArea(), {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
 }
 
-look::MarkedLook MarkedWidget::look() const noexcept {
+look::MarkedLook MarkedWidget::look() const {
     return {.caption = caption(),
             .font = font(),
             .foreColor = rgbOf(get_ForeColor()),

@@ -20,7 +20,7 @@ protected:
     }
 
     void paintGround(Painter& painter) const;
-    look::MarkedLook look() const noexcept;
+    look::MarkedLook look() const;
 
 private:
     look::MarkSide mark_;
