@@ -58,9 +58,9 @@ std::vector<std::function<Status(HostedControl&)>> deedsOf(HostedControl& descri
             [=](HostedControl& control) { return control.Input(input::Act{widgetOf(control)}, nullptr); });
         for (const auto& [member, set] : {std::pair<StringView, Integer>{u"Width", 1500}, {u"Value", 1}})
             if (each.description().find(member))
-                deeds.emplace_back([=](HostedControl& control) {
-                    Variant value{set};
-                    return invoke(widgetOf(control), member, Access::Put, {&value, 1}, nullptr);
+                deeds.emplace_back([=, name = member, number = set](HostedControl& control) {
+                    Variant value{number};
+                    return invoke(widgetOf(control), name, Access::Put, {&value, 1}, nullptr);
                 });
     }
     deeds.emplace_back([](HostedControl& control) { return control.SetSize(2000, 1000); });
