@@ -1,5 +1,6 @@
 #include "hosts/console/ChildProcess.h"
 
+#include "hosts/console/Output.h"
 #include "zilvo/platform/values/Status.h"
 
 #include <array>
@@ -30,10 +31,7 @@ using Clock = std::chrono::steady_clock;
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     constexpr rlimit noCoreFile{0, 0};
     setrlimit(RLIMIT_CORE, &noCoreFile);
-    const int status = body(pipe);
-    std::cout.flush();
-    std::fflush(nullptr);
-    _exit(status);
+    _exit(flushed(body(pipe)));
 }
 
 /// False when patience ended first.

@@ -3,6 +3,7 @@
 #include "hosts/console/Gallery.h"
 #include "hosts/console/Idl.h"
 #include "hosts/console/Inspect.h"
+#include "hosts/console/Output.h"
 #include "hosts/console/Register.h"
 #include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
@@ -299,5 +300,10 @@ int start(int argc, char** argv) {
 } // namespace zilvo::console
 
 int main(int argc, char** argv) {
+    zilvo::console::fillClosedStreams();
+    // However the program ends: a script can end it, too.
+    std::atexit([] {
+        if (zilvo::console::flushed(EXIT_SUCCESS) != EXIT_SUCCESS) _exit(EXIT_FAILURE);
+    });
     return zilvo::console::start(argc, argv);
 }

@@ -103,6 +103,23 @@ expect misuse 'Usage' list --json
 expect 0 'Usage' --help
 expect 0 'Usage' run --help
 
+# What cannot be written is not lost in silence, whoever writes it and however the program ends.
+script story.lua 'local x'
+script out.lua 'print(1)'
+script write.lua 'io.write("x") os.exit(true, true)'
+script silent.lua 'io.open(arg[1], "w"):write("kept"):close()'
+for arguments in list describe 'describe --json' resources 'inspect ssOKCancel' --help repl "run $work/out.lua" \
+    "run $work/write.lua" "transcript $work/story.lua" 'validate /dev/null'; do
+    for stream in '>/dev/full' '>&-'; do
+        # shellcheck disable=SC2086
+        (eval "echo 1 | '$program' --component '$component' $arguments $stream" 2>"$work/err")
+        [ $? -eq 1 ] || complain "$arguments $stream did not end with 1"
+        grep -q '^zilvo: the standard output cannot be written: ' "$work/err" || complain "$arguments $stream: no message"
+    done
+done
+"$program" --component "$component" run "$work/silent.lua" "$work/kept" >&- || complain 'nothing to write was lost'
+[ "$(cat "$work/kept")" = kept ] || complain 'the closed output got into a file'
+
 # The component: one that is missing or none at all, and named behind the command too.
 component_given=$component
 component=$work/absent
