@@ -26,7 +26,8 @@ std::filesystem::path programFolder() {
 std::filesystem::path componentFile(const std::filesystem::path& named) {
     if (!named.empty()) return named;
     auto beside = programFolder() / UsualName;
-    if (std::filesystem::exists(beside)) return beside;
+    std::error_code unreadable; // is told by who reads the file
+    if (std::filesystem::status(beside, unreadable).type() != std::filesystem::file_type::not_found) return beside;
 
     const auto nothing = [&] {
         return "there is no component: none is named with --component FILE, none lies beside the program, at " +

@@ -72,7 +72,9 @@ void writeDifference(std::ostream& out, const std::vector<std::string>& written,
 } // namespace
 
 Transcript::Transcript(const std::filesystem::path& file, const std::function<bool(const std::string&)>& isWhole) {
-    if (std::filesystem::is_directory(file)) throw Failure(Status::FileNotFound, file.string() + " is a directory");
+    std::error_code unreadable; // is told by opening the file
+    if (std::filesystem::is_directory(file, unreadable))
+        throw Failure(Status::FileNotFound, file.string() + " is a directory");
     std::ifstream in(file, std::ios::binary);
     if (!in) throw Failure(Status::FileNotFound, file.string() + " cannot be read: " + std::strerror(errno));
     for (std::string line; std::getline(in, line);)

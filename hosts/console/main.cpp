@@ -177,8 +177,10 @@ public:
     int parseAndRun(int argc, char** argv) {
         try {
             app_.parse(argc, argv);
+        } catch (const CLI::RequiredError& error) { // also for a word that is no command
+            return app_.remaining().empty() ? exit(error) : exit(CLI::ExtrasError(app_.remaining()));
         } catch (const CLI::ParseError& error) {
-            return app_.exit(error);
+            return exit(error);
         }
         if (!given_.registrations.empty())
             setenv(RegistrationStore::EnvironmentVariable, given_.registrations.c_str(), 1);
@@ -186,6 +188,9 @@ public:
     }
 
 private:
+    /// Prints the help that was asked for, or what is wrong.
+    int exit(const CLI::Error& error) const { return app_.exit(error) == EXIT_SUCCESS ? EXIT_SUCCESS : EXIT_FAILURE; }
+
     CLI::App& add(const char* name, const char* text, Command& does) {
         CLI::App* command = app_.add_subcommand(name, text);
         command->fallthrough();

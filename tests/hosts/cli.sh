@@ -6,18 +6,14 @@ program=$1
 component=$2
 . "$(dirname "$0")/../support/complaints.sh"
 
-# expect STATUS PATTERN ARGUMENT...: runs the program on the component. STATUS is a number or "misuse", for any but 0;
-# a line of its output must match PATTERN.
+# expect STATUS PATTERN ARGUMENT...: runs the program on the component; a line of its output must match PATTERN.
 expect() {
     status=$1
     pattern=$2
     shift 2
     "$program" --component "$component" "$@" >"$work/out" 2>"$work/err" </dev/null
     got=$?
-    case $status in
-    misuse) [ $got -ne 0 ] || complain "$* ended with 0" ;;
-    *) [ $got -eq "$status" ] || complain "$* ended with $got, not $status" ;;
-    esac
+    [ $got -eq "$status" ] || complain "$* ended with $got, not $status"
     [ -z "$pattern" ] || cat "$work/out" "$work/err" | grep -q -e "$pattern" || complain "$* did not print $pattern"
 }
 
@@ -74,7 +70,7 @@ expect 0 '' resources _iid_ssokcancel -o "$work/one"
     complain "another interface id"
 expect 1 'nothing' resources 30015 nothing -o "$work/none"
 [ ! -e "$work/none" ] || complain "resources in spite of an unknown one"
-expect misuse 'Usage' resources 30015
+expect 1 'Usage' resources 30015
 
 # Pictures: an unknown class is named and does not keep the others from being drawn.
 expect 0 '' snapshot ssOKCancel -o "$work/new/folder"
@@ -94,12 +90,13 @@ printf '%s\n' '1 + 1' 'error("oh")' 'for i = 5, 6 do' 'print(i)' 'end' 'x = zilv
 [ "$(grep -c . "$work/err")" -eq 3 ] || complain "the conversation had other errors"
 
 # Misuse: help and a failing status.
-expect misuse 'Usage' inspect
-expect misuse 'Usage' run
-expect misuse 'Usage' frobnicate
-expect misuse 'Usage'
-expect misuse 'Usage' snapshot ssOKCancel
-expect misuse 'Usage' list --json
+expect 1 'Usage' inspect
+expect 1 'Usage' run
+expect 1 'Usage' frobnicate
+expect 1 'not expected: frobnicate$' frobnicate
+expect 1 'Usage'
+expect 1 'Usage' snapshot ssOKCancel
+expect 1 'Usage' list --json
 expect 0 'Usage' --help
 expect 0 'Usage' run --help
 
@@ -126,7 +123,16 @@ component=$work/absent
 expect 1 'absent' list
 component=$work/good.lua
 expect 1 'good.lua' list
+component=$(printf '%0300d' 0)
+expect 1 "^zilvo: the component file .*$component cannot be read: File name too long$" list
 component=$component_given
+# What no system says in our stead.
+(mkdir "$work/gone" && cd "$work/gone" && rmdir "$work/gone" && "$program" --component absent list) \
+    >"$work/out" 2>"$work/err" && complain 'a component was found in no folder'
+grep -q '^zilvo: the component file absent cannot be read: No such' "$work/err" || complain 'in no folder'
+export TMPDIR="$work/absent"
+expect 1 "^zilvo: no temporary folder .* can be made: " validate "$component"
+unset TMPDIR
 "$program" run --component "$component" "$work/good.lua" a >"$work/out" 2>"$work/err" || complain "--component behind run"
 "$program" list --component "$component" >"$work/out" 2>"$work/err" || complain "--component behind list"
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <iomanip>
 #include <iostream>
 #include <map>
@@ -177,9 +176,10 @@ Outcome runInItsOwnProcess(const NamedCheck& named, const Given& given) {
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        auto name = (std::filesystem::temp_directory_path() / "zilvo-validate-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw Failure(Status::Failed, "no temporary folder can be made: " + std::string(std::strerror(errno)));
+        std::error_code error;
+        auto name = (std::filesystem::temp_directory_path(error) / "zilvo-validate-XXXXXX").string();
+        if (!error && !mkdtemp(name.data())) error.assign(errno, std::generic_category());
+        if (error) throw Failure(Status::Failed, "no temporary folder " + name + " can be made: " + error.message());
         path_ = name;
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -50,7 +50,7 @@ Bytes resourceSection(std::span<const Resource> resources) {
 }
 
 ComponentFile::ComponentFile(const std::filesystem::path& file)
-    : file_(std::filesystem::absolute(file)),
+    : file_(absoluteFile(file)),
       name_(file_.string()),
       content_(contentOf(name_)),
       version_(resource(u"VERSION")),

@@ -22,7 +22,7 @@ Entry* entryPoint(void* library, const char* name, std::string& missing) {
 
 } // namespace
 
-LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(std::filesystem::absolute(file)) {
+LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(absoluteFile(file)) {
     const ElfFile whole(file_);
     library_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
     if (!library_) refuse(file_, dlerror());

@@ -11,19 +11,34 @@ extern "C" const Elf64_Ehdr __ehdr_start __attribute__((visibility("hidden"))); 
 
 namespace zilvo::platform {
 
+namespace {
+
+[[noreturn]] void cannotRead(const std::string& file, const std::string& why) {
+    throw Failure(Status::BadComponent, "the component file " + file + " cannot be read: " + why);
+}
+
+} // namespace
+
+std::filesystem::path absoluteFile(const std::filesystem::path& file) {
+    std::error_code error;
+    auto place = std::filesystem::absolute(file, error);
+    if (error) cannotRead(file.string(), error.message());
+    return place;
+}
+
 ElfFile::ElfFile(const std::filesystem::path& file) : name_(file.string()) {
     std::error_code error;
     const auto found = std::filesystem::status(file, error);
     if (found.type() == std::filesystem::file_type::not_found)
         throw Failure(Status::FileNotFound, "there is no component file " + name_);
-    if (!std::filesystem::status_known(found)) cannotRead(error.message());
+    if (!std::filesystem::status_known(found)) cannotRead(name_, error.message());
     if (!std::filesystem::is_regular_file(found))
         throw Failure(Status::BadComponent, name_ + " is not a component: it is no file");
     errno = 0;
     in_.open(file, std::ios::binary);
-    if (!in_) cannotRead(std::generic_category().message(errno));
+    if (!in_) cannotRead(name_, std::generic_category().message(errno));
     size_ = std::filesystem::file_size(file, error);
-    if (error) cannotRead(error.message());
+    if (error) cannotRead(name_, error.message());
 
     if (size_ == 0) ByteReader::refuse(name_, 0, "the file is empty");
     const auto ident = read(0, std::min<std::uint64_t>(size_, SELFMAG), "the first bytes");
@@ -77,10 +92,6 @@ std::optional<ElfFile::Section> ElfFile::section(const std::string& name, std::u
     return std::nullopt;
 }
 
-void ElfFile::cannotRead(const std::string& why) const {
-    throw Failure(Status::BadComponent, "the component file " + name_ + " cannot be read: " + why);
-}
-
 void ElfFile::require(std::uint64_t offset, std::uint64_t size, const std::string& what) const {
     if (offset > size_ || size > size_ - offset)
         ByteReader::refuse(name_, offset, what + " is cut short: the file has " + std::to_string(size_) + " bytes");
@@ -91,7 +102,7 @@ Bytes ElfFile::read(std::uint64_t offset, std::uint64_t size, const std::string&
     Bytes bytes(size);
     in_.seekg(static_cast<std::streamoff>(offset));
     in_.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size)); // as streams see bytes
-    if (!in_) cannotRead("reading " + what + " failed");
+    if (!in_) cannotRead(name_, "reading " + what + " failed");
     return bytes;
 }
 

@@ -9,6 +9,9 @@
 
 namespace zilvo::platform {
 
+/// The component file wherever the working folder is later. Fails with BadComponent for no name, or in no folder.
+std::filesystem::path absoluteFile(const std::filesystem::path& file);
+
 /// A loadable module of this machine as a file, of which nothing is run. Its headers are checked when it is opened: the
 /// loader maps what they promise and dies when the file ends before that.
 class ElfFile {
@@ -27,7 +30,6 @@ public:
     const std::string& name() const noexcept { return name_; }
 
 private:
-    [[noreturn]] void cannotRead(const std::string& why) const;
     /// Fails unless the file has so many bytes from there on.
     void require(std::uint64_t offset, std::uint64_t size, const std::string& what) const;
     Bytes read(std::uint64_t offset, std::uint64_t size, const std::string& what);
