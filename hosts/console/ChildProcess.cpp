@@ -71,6 +71,29 @@ Ending runChild(const std::function<int(int pipe)>& body, const std::function<bo
     return ending;
 }
 
+int runComponent(const std::filesystem::path& component, const std::function<int()>& body) {
+    bool hasEnded = false;
+    const Ending ending = runChild(
+        [&](int pipe) {
+            const int status = complaining(body);
+            say(pipe, "end");
+            return status;
+        },
+        [&](std::string_view) { return hasEnded = true; }, {std::chrono::hours(24)});
+    if (!hasEnded)
+        throw Failure(Status::BadComponent, "running " + component.string() + " " + howItEnded(ending.status));
+    return WEXITSTATUS(ending.status);
+}
+
+int complaining(const std::function<int()>& body) {
+    try {
+        return body();
+    } catch (const std::exception& exception) {
+        std::cerr << "zilvo: " << exception.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}
+
 void say(int pipe, std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t written = write(pipe, bytes.data(), bytes.size());

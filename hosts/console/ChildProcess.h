@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,13 @@ struct Ending {
 /// when there can be no process.
 Ending runChild(const std::function<int(int pipe)>& body, const std::function<bool(std::string_view)>& hear,
                 Patience patience);
+
+/// Runs what runs a component in a process of its own, and gives its exit status: 1, with a message, when it fails.
+/// Fails with BadComponent when the process ends before that.
+int runComponent(const std::filesystem::path& component, const std::function<int()>& body);
+
+/// The exit status that the body gives, or 1 with the message of what it throws.
+int complaining(const std::function<int()>& body);
 
 /// For the child's side: all of it, or the end of the process when nobody listens any more.
 void say(int pipe, std::string_view bytes);

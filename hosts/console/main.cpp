@@ -1,3 +1,4 @@
+#include "hosts/console/ChildProcess.h"
 #include "hosts/console/Component.h"
 #include "hosts/console/Files.h"
 #include "hosts/console/Gallery.h"
@@ -155,10 +156,11 @@ int onFile(const CommandLine& given) {
     return Does(given, ComponentFile(componentFile(given.component)));
 }
 
-/// A command on one component.
+/// A command that runs a component's code, a fault in which does not end the program.
 template <int (*Does)(const CommandLine& given, const LoadedComponent& component)>
 int onComponent(const CommandLine& given) {
-    return Does(given, LoadedComponent(componentFile(given.component)));
+    const auto file = componentFile(given.component);
+    return runComponent(file, [&] { return Does(given, LoadedComponent(file)); });
 }
 
 /// What can be given on the command line, and what was.
@@ -292,12 +294,7 @@ private:
 
 int start(int argc, char** argv) {
     Commands commands;
-    try {
-        return commands.parseAndRun(argc, argv);
-    } catch (const std::exception& exception) {
-        std::cerr << "zilvo: " << exception.what() << '\n';
-        return 1;
-    }
+    return complaining([&] { return commands.parseAndRun(argc, argv); });
 }
 
 } // namespace

@@ -63,6 +63,13 @@ for command in list describe 'describe --json' 'describe Faulty --idl' resources
     prints 'Faulty\|TYPELIB' "$command"
     ! grep -q 'is loaded' "$work/out" || complain "$command loaded the component"
 done
+# What makes objects runs it, and does not end with it.
+for command in 'inspect Faulty' "snapshot all -o $work/new" "gallery $work/all.svg"; do
+    # shellcheck disable=SC2086
+    "$program" --component "$faulty" $command >"$work/out" 2>&1
+    [ $? -eq 1 ] || complain "$command did not end with 1"
+    prints "^zilvo: running $faulty ended " "$command"
+done
 unset ZILVO_FAULT
 
 # JSON and nothing else.

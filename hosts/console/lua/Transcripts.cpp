@@ -43,12 +43,7 @@ int play(const std::string& file, const Playing& playing, int pipe) {
 }
 
 int playOrComplain(const std::string& file, const Playing& playing, int pipe) {
-    int status = EXIT_FAILURE;
-    try {
-        status = play(file, playing, pipe);
-    } catch (const std::exception& exception) {
-        std::cerr << "zilvo: " << exception.what() << '\n';
-    }
+    const int status = complaining([&] { return play(file, playing, pipe); });
     say(pipe, End);
     return status;
 }
