@@ -19,6 +19,7 @@ public:
         std::size_t underlined;
     };
     std::vector<Run> runs;
+    mutable std::size_t measured = 0;
 
     void rectangle(const Rectangle&, const ShapeStyle&, Single) override {}
     void ellipse(const Rectangle&, const ShapeStyle&) override {}
@@ -30,7 +31,10 @@ public:
     void bitmap(const Bitmap&, const Rectangle&) override {}
     void enter(const Rectangle&) override {}
     void leave() override {}
-    Single measure(StringView text, const FontLook&) const override { return static_cast<Single>(text.size() * 100); }
+    Single measure(StringView text, const FontLook&) const override {
+        measured += text.size();
+        return static_cast<Single>(text.size() * 100);
+    }
 
     std::vector<String> lines() const {
         std::vector<String> all;
@@ -50,6 +54,18 @@ Lines linesOf(StringView designed, Single width, bool wraps = true) {
     Typewriter painter;
     paintCaption(painter, {0, 0, width, 3000}, captioned(designed, wraps));
     return painter.lines();
+}
+
+TEST(TextLayout, TakesNoLongerForAWideLineThanForItsText) {
+    String text;
+    while (text.size() < 65536)
+        text += u"ab c ";
+    const auto length = static_cast<Single>(text.size() * 100);
+    for (const Single width : {length, length - 500, length / 2, length / 100, Single{0}}) {
+        Typewriter painter;
+        paintCaption(painter, {0, 0, width, 3000}, captioned(text));
+        EXPECT_LT(painter.measured, 32 * text.size()) << width;
+    }
 }
 
 TEST(TextLayout, BreaksAtBlanksOnlyWhereALineIsFull) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 namespace zilvo::platform {
@@ -20,25 +21,36 @@ constexpr bool isBlank(char16_t unit) noexcept {
     return unit == u' ' || unit == u'\t';
 }
 
-/// Breaks one paragraph. Blanks in front of its first word stay; those at a break go. Blanks at its end stay
-/// as long as they fit, because an unbroken caption is as wide as it was typed.
-template <class Fits>
-void breakAtBlanks(StringView text, Piece paragraph, const Fits& fits, std::vector<Piece>& lines) {
+std::vector<Piece> wordsOf(StringView text, Piece paragraph) {
     const auto skip = [&](std::size_t at, bool blanks) {
         while (at < paragraph.end && isBlank(text[at]) == blanks)
             ++at;
         return at;
     };
+    std::vector<Piece> words;
+    for (std::size_t word = skip(paragraph.begin, true); word < paragraph.end; word = skip(words.back().end, true))
+        words.push_back({word, skip(word, false)});
+    return words;
+}
+
+/// Breaks one paragraph. Blanks in front of its first word stay; those at a break go. Blanks at its end stay
+/// as long as they fit, because an unbroken caption is as wide as it was typed.
+template <class Fits>
+void breakAtBlanks(StringView text, Piece paragraph, const Fits& fits, std::vector<Piece>& lines) {
     Piece line{paragraph.begin, paragraph.begin};
-    std::size_t word = skip(paragraph.begin, true);
-    while (word < paragraph.end) {
-        const std::size_t wordEnd = skip(word, false);
-        if (line.end > line.begin && !fits(Piece{line.begin, wordEnd})) {
+    const std::vector<Piece> words = wordsOf(text, paragraph);
+    for (auto word = words.begin(); word != words.end();) {
+        if (word != words.begin()) {
             lines.push_back(line);
-            line.begin = word;
+            line.begin = word->begin;
         }
-        line.end = wordEnd;
-        word = skip(wordEnd, true);
+        // The more words the wider: those that fit are looked for in steps that double, then between the last two.
+        const auto fitUpTo = [&](const Piece& last) { return fits(Piece{line.begin, last.end}); };
+        std::ptrdiff_t step = 1;
+        while (step < words.end() - word && fitUpTo(word[step]))
+            step *= 2;
+        word = std::partition_point(word + 1, word + std::min(step, words.end() - word), fitUpTo);
+        line.end = std::prev(word)->end;
     }
     if (fits(Piece{line.begin, paragraph.end})) line.end = paragraph.end;
     lines.push_back(line);
