@@ -111,6 +111,16 @@ TEST(Spinning, RepeatsWhileHeldByTheHostsClock) {
     EXPECT_FALSE(g.wait(10000));
 }
 
+TEST(Spinning, IsHeldForAMinuteAtMostWhenTheClockLeaps) {
+    const GalleryHost g;
+    g.press(g.pointOf(u"spnCount", 0.5F, 0.25F));
+    g.heard();
+    g.act(input::TimePassed{std::chrono::milliseconds::min()});
+    EXPECT_EQ(g.heard().size(), 0U);
+    g.act(input::TimePassed{std::chrono::hours(24)});
+    EXPECT_EQ(g.heard().size(), 1U + (60000 - Delay) / Every);
+}
+
 TEST(Spinning, EndsWhenAHandlerTakesTheButtonOrThePointerAway) {
     for (const StringView taken : {u"Enabled", u"Visible", u"the pointer"}) {
         const GalleryHost g;

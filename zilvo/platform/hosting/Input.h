@@ -49,8 +49,10 @@ struct KeyDown {
     Integer shift = 0;
 };
 
-/// Time that passed on the host's clock since the last input; what is held down repeats by it.
+/// Time that passed on the host's clock since the last input; what is held down repeats by it. A clock that leaps,
+/// after the machine slept or was set, counts as `Most`, one that goes back as no time.
 struct TimePassed {
+    static constexpr std::chrono::milliseconds Most = std::chrono::minutes(1);
     std::chrono::milliseconds elapsed;
 };
 

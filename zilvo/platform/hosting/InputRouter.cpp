@@ -163,7 +163,7 @@ bool InputRouter::on(const input::KeyDown& event) {
 
 bool InputRouter::on(const input::TimePassed& event) {
     if (!captured_ || !captured_->isPressed()) return false;
-    captured_->held(event.elapsed);
+    captured_->held(std::clamp(event.elapsed, std::chrono::milliseconds::zero(), input::TimePassed::Most));
     return true;
 }
 
