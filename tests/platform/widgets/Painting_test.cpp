@@ -32,6 +32,15 @@ TEST(WidgetPainting, EachStateOfEachKindLooksDifferent) {
     }
 }
 
+TEST(WidgetPainting, AWidePictureIsNoLargeOne) {
+    for (const Single width : {1e6F, 1e12F, 3e37F}) {
+        const GalleryHost g;
+        g.put(u"ribCard0", u"Enabled", false);
+        g.put(u"ribCard0", u"Width", width);
+        EXPECT_LT(g.painted().size(), 1000000U) << width;
+    }
+}
+
 TEST(WidgetPainting, EachOtherMemberShowsAndIsPaintedAnewOnce) {
     const std::tuple<StringView, StringView, Variant> cases[] = {
         {u"cmdPush0", u"Default", false},    {u"cmdPush1", u"Caption", u"&Other"},

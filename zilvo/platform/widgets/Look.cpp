@@ -103,9 +103,11 @@ Rectangle buttonFace(Painter& painter, const Rectangle& area, Rgb face, bool pre
 }
 
 void dim(Painter& painter, const Rectangle& area, Rgb ground) {
-    const auto columns = static_cast<int>(area.width / (2 * Pixel));
+    constexpr Single Most = 4096; // columns are seen on any screen; in a wider area they are wider
+    const Single column = std::max(Pixel, area.width / (2 * Most));
+    const auto columns = static_cast<int>(std::min(Most, area.width / (2 * column))); // also when it is no number
     for (int i = 0; i < columns; ++i)
-        fill(painter, {area.left + static_cast<Single>(2 * i) * Pixel, area.top, Pixel, area.height}, ground);
+        fill(painter, {area.left + static_cast<Single>(2 * i) * column, area.top, column, area.height}, ground);
 }
 
 void arrow(Painter& painter, const Rectangle& area, bool up, bool greyed) {
