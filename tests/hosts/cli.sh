@@ -47,6 +47,9 @@ c:key(13)'
 expect 1 'handler.lua:3: .*Nothing$' run "$work/handler.lua"
 script exit.lua 'zilvo.create("ssOKCancel") os.exit(7, true)'
 expect 7 '' run "$work/exit.lua"
+script drop.lua 'local most = 0
+for _ = 1, 20000 do zilvo.create("DeckButtons") most = math.max(most, zilvo.alive) end print(most)'
+expect 0 '^[0-9][0-9]\{0,1\}$' run "$work/drop.lua"
 expect 1 'missing.lua' run "$work/missing.lua"
 expect 1 'irectory' run "$work"
 

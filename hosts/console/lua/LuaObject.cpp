@@ -13,6 +13,9 @@ namespace {
 /// The place in Lua's registry of the table that finds an object's userdata by its number, without keeping it alive.
 constexpr char Objects = 0;
 
+/// About what an object takes of the memory that Lua's collector does not see: it is to work as if it did.
+constexpr int KilobytesOfAnObject = 4;
+
 } // namespace
 
 /// Hears an event before any handler of the script does.
@@ -89,6 +92,7 @@ void pushObject(lua_State* L, LuaControl control) {
     lua_pushvalue(L, -2);
     lua_rawseti(L, -2, number);
     lua_pop(L, 1);
+    if (lua_gc(L, LUA_GCISRUNNING)) lua_gc(L, LUA_GCSTEP, KilobytesOfAnObject);
 }
 
 void pushObjectNumbered(lua_State* L, lua_Integer number) {
