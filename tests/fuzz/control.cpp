@@ -6,7 +6,6 @@
 
 using namespace zilvo;
 using platform::Access;
-using platform::ControlHost;
 using platform::Described;
 using platform::Widget;
 namespace input = platform::input;
@@ -19,92 +18,99 @@ public:
         for (const auto& event : object_->description().events)
             connections_.push_back(connect(*object_, event.name, *this));
         if (!object_->hostedControl()) return;
-        host_ = std::make_unique<ControlHost>(object_);
+        host_ = std::make_unique<platform::ControlHost>(object_);
         if (in_.ConsumeBool()) fuzz::attempt([&] { host_->open(); });
     }
 
     void play() {
         for (int left = 200; left > 0 && in_.remaining_bytes() > 0; --left)
             fuzz::attempt([&] { step(); });
-        if (!host_) return;
-        platform::SvgPainter painter(3000, 3000);
-        host_->paint(painter);
+        if (host_) paint();
     }
 
 private:
     /// One of the calls that anybody may make at any time.
     void step() {
-        if (!object_) return;
-        switch (in_.below(host_ ? 17 : 2)) {
-        case 0:
-            return callMember();
-        case 1:
-            return putFont();
-        case 2:
-            return host_->open();
-        case 3:
-            return resize();
-        case 4:
-            return save();
-        case 5:
-            return paint();
-        case 6:
-            return accessAny(host_->extenderObject());
-        case 7:
-            return accessAny(host_->control().surfaceMembers());
-        case 8:
-            return setAmbient();
-        case 9:
-            return accessWidget();
-        case 10:
-            return send(input::PointerDown{place(), in_.whole<Integer>(), in_.whole<Integer>()});
-        case 11:
-            return send(input::PointerMove{place()});
-        case 12:
-            return send(input::PointerUp{place(), in_.whole<Integer>()});
-        case 13:
-            return send(input::KeyTyped{in_.whole<Integer>()});
-        case 14:
-            return send(input::KeyDown{static_cast<input::Key>(in_.below(9)),
-                                       in_.ConsumeIntegralInRange<char16_t>(u' ', u'z'),
-                                       in_.ConsumeIntegralInRange<Integer>(0, 7)});
-        case 15:
-            return send(input::TimePassed{std::chrono::milliseconds(in_.ConsumeIntegralInRange(-1, 60000))});
-        default:
-            return act();
-        }
+        static constexpr void (*steps[])(Scene&) = {
+            [](Scene& on) { on.callMember(); },
+            [](Scene& on) { on.useFont(); },
+            [](Scene& on) { on.host_->open(); },
+            [](Scene& on) { on.paint(); },
+            [](Scene& on) { on.useWidget(); },
+            [](Scene& on) { on.use(on.host_->extenderObject()); },
+            [](Scene& on) { on.use(on.host_->control().surfaceMembers()); },
+            [](Scene& on) { on.resize(on.in_.point()); },
+            [](Scene& on) { on.save(); },
+            [](Scene& on) { on.setAmbient(); },
+            [](Scene& on) { on.click(); },
+            [](Scene& on) {
+                on.send(input::PointerDown{on.place(), on.button(), on.in_.whole<Integer>()});
+            },
+            [](Scene& on) { on.send(input::PointerMove{on.place()}); },
+            [](Scene& on) {
+                on.send(input::PointerUp{on.place(), on.button()});
+            },
+            [](Scene& on) { on.send(input::KeyTyped{on.in_.whole<Integer>()}); },
+            [](Scene& on) { on.send(on.key()); },
+            [](Scene& on) {
+                on.send(input::TimePassed{std::chrono::milliseconds(on.in_.ConsumeIntegralInRange(-1, 60000))});
+            },
+        };
+        constexpr std::size_t withoutHost = 2;
+        if (object_) in_.oneOf(std::span(steps).first(host_ ? std::size(steps) : withoutHost))(*this);
     }
 
+    // What the user does
+
     void send(const platform::InputEvent& event) { host_->input(event); }
-    void act() {
-        if (Widget* widget = anyWidget()) send(input::Act{*widget, static_cast<input::Action>(in_.below(3))});
+    void click() {
+        if (Widget* widget = anyWidget())
+            send(input::Act{*widget, static_cast<input::Action>(in_.ConsumeIntegralInRange(0, 2))});
     }
-    void resize() {
-        const auto [width, height] = in_.point();
-        host_->resize(width, height);
+    Integer button() { return in_.ConsumeBool() ? in_.whole<Integer>() : input::LeftButton; }
+    input::KeyDown key() {
+        return {static_cast<input::Key>(in_.ConsumeIntegralInRange(0, 8)),
+                in_.ConsumeIntegralInRange<char16_t>(u' ', u'z'), in_.ConsumeIntegralInRange<Integer>(0, 7)};
     }
+    Widget* anyWidget() {
+        std::vector<Widget*> widgets;
+        fuzz::collect(host_->control().surface(), widgets);
+        return widgets.empty() ? nullptr : in_.oneOf(widgets);
+    }
+    /// Anywhere, or on a widget.
+    Point place() {
+        const Widget* at = in_.ConsumeBool() ? anyWidget() : nullptr;
+        if (!at) return in_.point();
+        Point point{at->bounds().width / 2, at->bounds().height / 2};
+        for (; at; at = at->parent() ? at->parent() : at->surface().embeddingWidget())
+            point = {point.x + at->bounds().left, point.y + at->bounds().top};
+        return point;
+    }
+
+    // What the host does
+
+    void resize(Point size) { host_->resize(size.x, size.y); }
     void save() {
         platform::MemoryPropertyBag bag;
         host_->save(bag);
     }
     void paint() {
-        platform::SvgPainter painter(in_.single(), in_.single());
+        platform::SvgPainter painter(3000, 3000);
         host_->paint(painter);
     }
     void setAmbient() {
         static constexpr std::array<StringView, 4> names = {u"UserMode", u"BackColor", u"ForeColor", u"Font"};
-        host_->setAmbient(in_.oneOf(names), in_.value());
+        const auto name = in_.oneOf(names);
+        host_->setAmbient(name, in_.value());
     }
-
-    /// As late-bound hosts do, with any arguments.
+    /// With any arguments, mostly as many as there are.
     template <class Call>
     void with(const platform::MemberDescription& member, const Call& call) {
-        std::vector<Variant> arguments(member.argumentCount);
+        std::vector<Variant> arguments(in_.ConsumeIntegralInRange(0, 9) == 9 ? 3 : member.argumentCount);
         for (Variant& argument : arguments)
             argument = in_.value();
-        if (in_.below(10) == 9) arguments.resize(in_.below(4));
         ErrorInfo error;
-        platform::throwUnlessOk(call(static_cast<Access>(in_.below(4)), arguments, error), error);
+        platform::throwUnlessOk(call(static_cast<Access>(in_.ConsumeIntegralInRange(0, 3)), arguments, error), error);
     }
     void callMember() {
         if (object_->description().members.empty()) return;
@@ -113,8 +119,8 @@ private:
             return object_->Invoke(member.id, how, arguments, &result_, &error);
         });
     }
-    void accessAny(Described& target) {
-        const Ref<Object> held = object_;
+    void use(Described& target) {
+        const Ref<Object> held = object_; // a widget's member does not hold its control
         const auto* description = &target.description();
         while (description->base && in_.ConsumeBool())
             description = description->base;
@@ -124,80 +130,42 @@ private:
             return platform::invoke(target, member.name, how, arguments, &result_, &error);
         });
     }
-    /// The font that a member gave last.
-    void putFont() {
-        const FontRef* font = result_.find<FontRef>();
-        if (!font || !*font) return;
-        const FontRef held = *font;
-        accessAny(*held);
-    }
-    void accessWidget() {
+    void useWidget() {
         Widget* widget = anyWidget();
         if (!widget) return;
         Described* members = widget->embeddedMembers();
-        accessAny(members && in_.ConsumeBool() ? *members : *widget);
+        use(members && in_.ConsumeBool() ? *members : *widget);
     }
-
-    Widget* anyWidget() {
-        std::vector<Widget*> widgets;
-        fuzz::collect(host_->control().surface(), widgets);
-        return widgets.empty() ? nullptr : in_.oneOf(widgets);
-    }
-    /// Anywhere, or on a widget.
-    Point place() {
-        Widget* widget = in_.ConsumeBool() ? anyWidget() : nullptr;
-        if (!widget) return in_.point();
-        Point point{widget->bounds().width / 2, widget->bounds().height / 2};
-        for (const Widget* outer = widget; outer;
-             outer = outer->parent() ? outer->parent() : outer->surface().embeddingWidget())
-            point = {point.x + outer->bounds().left, point.y + outer->bounds().top};
-        return point;
+    /// The font that a member gave last.
+    void useFont() {
+        const FontRef* font = result_.find<FontRef>();
+        if (font && *font) use(*FontRef(*font));
     }
 
     /// A handler that changes what it is given, calls back, throws, or takes away what it is called from.
     void Event(Long /*number*/, std::span<Variant> arguments) override {
-        if (depth_ == 3) return;
-        class Depth {
-        public:
-            explicit Depth(int& depth) noexcept : depth_(depth) { ++depth_; }
-            Depth(const Depth&) = delete;
-            Depth& operator=(const Depth&) = delete;
-            ~Depth() { --depth_; }
-
-        private:
-            int& depth_;
+        static constexpr void (*deeds[])(Scene&) = {
+            [](Scene&) {},
+            [](Scene& on) { on.step(); },
+            [](Scene& on) { on.object_ = nullptr; },
+            [](Scene& on) { on.host_ = nullptr; },
+            [](Scene& on) { on.connections_.clear(); },
+            [](Scene& on) {
+                if (on.host_) on.host_->control().Close();
+            },
+            [](Scene&) { throw Failure(Status::InvalidPropertyValue, "a handler fails"); },
         };
-        const Depth depth(depth_);
-        switch (in_.below(10)) {
-        case 5:
-            object_ = nullptr;
-            [[fallthrough]];
-        case 6:
-            host_ = nullptr;
-            break;
-        case 7:
-            if (host_) host_->control().Close();
-            break;
-        case 8:
-            connections_.clear();
-            break;
-        case 9:
-            throw Failure(Status::InvalidPropertyValue, "a handler fails");
-        default:
-            break;
-        }
         for (Variant& argument : arguments)
             if (in_.ConsumeBool()) argument.assign(in_.value());
         while (in_.ConsumeBool())
-            step();
+            in_.oneOf(deeds)(*this);
     }
 
     fuzz::Input& in_;
     Ref<Object> object_;
     std::vector<platform::Connection> connections_;
-    std::unique_ptr<ControlHost> host_;
+    std::unique_ptr<platform::ControlHost> host_;
     Variant result_;
-    int depth_ = 0;
 };
 
 } // namespace

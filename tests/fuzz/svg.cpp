@@ -5,12 +5,10 @@
 #include "zilvo/platform/painting/SvgPainter.h"
 
 using namespace zilvo;
-using platform::Widget;
 
 namespace {
 
-/// Sets any members of a widget.
-void change(Widget& widget, fuzz::Input& in) {
+void changeMembers(platform::Widget& widget, fuzz::Input& in) {
     for (const auto* at = &widget.description(); at; at = at->base)
         for (const auto& member : at->members)
             if (in.ConsumeBool()) fuzz::attempt([&] { platform::putMember(widget, member.name, in.value()); });
@@ -19,11 +17,9 @@ void change(Widget& widget, fuzz::Input& in) {
 void drawLine(platform::Painter& painter, fuzz::Input& in) {
     const String text = in.text();
     const FontRef font = in.font();
-    platform::TextRun run{.text = text, .origin = in.point(), .font = font->look(), .colour = {}};
-    run.width = painter.measure(text, run.font);
-    run.align = static_cast<platform::Alignment>(in.below(3));
-    if (in.ConsumeBool()) run.underlined = in.below(70);
-    painter.text(run);
+    const auto align = static_cast<platform::Alignment>(in.ConsumeIntegralInRange(0, 2));
+    const auto underlined = in.ConsumeIntegralInRange<std::size_t>(0, 70);
+    painter.text({text, in.point(), painter.measure(text, font->look()), align, font->look(), {}, underlined});
 }
 
 } // namespace
@@ -32,13 +28,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     {
         fuzz::Input in(data, size);
         const Ref<Object> object = in.object();
-        if (!object->hostedControl()) return 0;
+        if (!object->hostedControl()) return -1; // not worth keeping
         platform::ControlHost host(object);
         host.open();
-        std::vector<Widget*> widgets;
+        std::vector<platform::Widget*> widgets;
         fuzz::collect(host.control().surface(), widgets);
-        for (int left = 8; left > 0 && in.ConsumeBool() && !widgets.empty(); --left)
-            change(*in.oneOf(widgets), in);
+        while (!widgets.empty() && in.ConsumeBool())
+            changeMembers(*in.oneOf(widgets), in);
         platform::SvgPainter painter(in.single(), in.single());
         host.paint(painter);
         while (in.ConsumeBool())
