@@ -12,13 +12,34 @@ namespace input = platform::input;
 
 namespace {
 
+/// A host that misbehaves when the control reports something.
+class Host final : public platform::ControlHost {
+public:
+    Host(Ref<Object> object, const std::function<void()>& misbehave)
+        : ControlHost(std::move(object)), misbehave_(misbehave) {}
+
+private:
+    void PropertyChanged(StringView /*name*/) override { misbehave_(); }
+    void SizeChanged(Single width, Single height) override {
+        ControlHost::SizeChanged(width, height);
+        misbehave_();
+    }
+    void Beep() override { misbehave_(); }
+    bool ShowPopup(platform::Menu& /*root*/) override {
+        misbehave_();
+        return false;
+    }
+
+    const std::function<void()>& misbehave_;
+};
+
 class Scene final : private platform::EventSink {
 public:
     explicit Scene(fuzz::Input& in) : in_(in), object_(in.object()) {
         for (const auto& event : object_->description().events)
             connections_.push_back(connect(*object_, event.name, *this));
         if (!object_->hostedControl()) return;
-        host_ = std::make_unique<platform::ControlHost>(object_);
+        host_ = std::make_unique<Host>(object_, misbehave_);
         if (in_.ConsumeBool()) fuzz::attempt([&] { host_->open(); });
     }
 
@@ -29,6 +50,23 @@ public:
     }
 
 private:
+    /// Calls back, throws, or takes away what it is called from.
+    void misbehave() {
+        static constexpr void (*deeds[])(Scene&) = {
+            [](Scene&) {},
+            [](Scene& on) { on.step(); },
+            [](Scene& on) { on.object_ = nullptr; },
+            [](Scene& on) { on.host_ = nullptr; },
+            [](Scene& on) { on.connections_.clear(); },
+            [](Scene& on) {
+                if (on.host_) on.host_->control().Close();
+            },
+            [](Scene&) { throw Failure(Status::InvalidPropertyValue, "a handler fails"); },
+        };
+        while (in_.ConsumeBool())
+            in_.oneOf(deeds)(*this);
+    }
+
     /// One of the calls that anybody may make at any time.
     void step() {
         static constexpr void (*steps[])(Scene&) = {
@@ -110,7 +148,11 @@ private:
         for (Variant& argument : arguments)
             argument = in_.value();
         ErrorInfo error;
-        platform::throwUnlessOk(call(static_cast<Access>(in_.ConsumeIntegralInRange(0, 3)), arguments, error), error);
+        const Status status = call(static_cast<Access>(in_.ConsumeIntegralInRange(0, 3)), arguments, error);
+        fuzz::require(platform::succeeded(status) ||
+                          error.message.find(platform::toUtf8(member.name)) != std::string::npos,
+                      "a message names the member: " + error.message);
+        platform::throwUnlessOk(status, error);
     }
     void callMember() {
         if (object_->description().members.empty()) return;
@@ -142,29 +184,18 @@ private:
         if (font && *font) use(*FontRef(*font));
     }
 
-    /// A handler that changes what it is given, calls back, throws, or takes away what it is called from.
+    /// A handler that changes what it is given, and misbehaves.
     void Event(Long /*number*/, std::span<Variant> arguments) override {
-        static constexpr void (*deeds[])(Scene&) = {
-            [](Scene&) {},
-            [](Scene& on) { on.step(); },
-            [](Scene& on) { on.object_ = nullptr; },
-            [](Scene& on) { on.host_ = nullptr; },
-            [](Scene& on) { on.connections_.clear(); },
-            [](Scene& on) {
-                if (on.host_) on.host_->control().Close();
-            },
-            [](Scene&) { throw Failure(Status::InvalidPropertyValue, "a handler fails"); },
-        };
         for (Variant& argument : arguments)
             if (in_.ConsumeBool()) argument.assign(in_.value());
-        while (in_.ConsumeBool())
-            in_.oneOf(deeds)(*this);
+        misbehave();
     }
 
     fuzz::Input& in_;
+    const std::function<void()> misbehave_ = [this] { misbehave(); };
     Ref<Object> object_;
     std::vector<platform::Connection> connections_;
-    std::unique_ptr<platform::ControlHost> host_;
+    std::unique_ptr<Host> host_;
     Variant result_;
 };
 
