@@ -51,9 +51,11 @@ public:
         return ConsumeBool() ? ConsumeIntegral<Number>() : ConsumeIntegralInRange<Number>(-2, 20);
     }
     Single single() {
+        static constexpr Single odd[] = {1e12F, -3e38F, std::numeric_limits<Single>::infinity(),
+                                         std::numeric_limits<Single>::quiet_NaN(), 1e-40F, 0.5F};
         constexpr Single most = 1e7F;
-        if (ConsumeBool()) return ConsumeFloatingPointInRange(-most, most);
-        return ConsumeIntegralInRange<Integer>(-2, 3000);
+        if (ConsumeBool()) return ConsumeIntegralInRange<Integer>(-2, 3000);
+        return ConsumeBool() ? oneOf(odd) : ConsumeFloatingPointInRange(-most, most);
     }
     Point point() {
         const Single x = single();

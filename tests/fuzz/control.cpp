@@ -73,7 +73,6 @@ private:
             [](Scene& on) { on.callMember(); },
             [](Scene& on) { on.useFont(); },
             [](Scene& on) { on.host_->open(); },
-            [](Scene& on) { on.paint(); },
             [](Scene& on) { on.useWidget(); },
             [](Scene& on) { on.use(on.host_->extenderObject()); },
             [](Scene& on) { on.use(on.host_->control().surfaceMembers()); },
