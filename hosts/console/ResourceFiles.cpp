@@ -1,6 +1,6 @@
 #include "hosts/console/ResourceFiles.h"
 
-#include "hosts/console/Files.h"
+#include "zilvo/platform/component/Files.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -42,7 +42,7 @@ void extractResources(const ComponentFile& component, const std::vector<std::str
             throw Failure(Status::Failed, toUtf8(component.description().library.name) + " has no resource " + name);
         chosen.push_back(&*at);
     }
-    makeDirectory(directory);
+    makeFolder(directory);
     for (const Resource* resource : chosen)
         writeFile(directory / fileName(*resource), std::string(resource->bytes.begin(), resource->bytes.end()));
 }

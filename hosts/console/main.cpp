@@ -1,6 +1,5 @@
 #include "hosts/console/ChildProcess.h"
 #include "hosts/console/Component.h"
-#include "hosts/console/Files.h"
 #include "hosts/console/Gallery.h"
 #include "hosts/console/Idl.h"
 #include "hosts/console/Inspect.h"
@@ -12,6 +11,7 @@
 #include "hosts/console/lua/Transcripts.h"
 #include "hosts/console/validate/Validate.h"
 #include "zilvo/platform/component/Components.h"
+#include "zilvo/platform/component/Files.h"
 #include "zilvo/platform/component/RegistrationStore.h"
 
 #include <CLI/CLI.hpp>
@@ -100,7 +100,7 @@ void snapshotOf(const ClassEntry& entry, const CommandLine& given, const LoadedC
 
 /// What fails is told and does not keep the others from being written.
 int snapshot(const CommandLine& given, const LoadedComponent& component) {
-    makeDirectory(given.directory);
+    makeFolder(given.directory);
     int status = 0;
     const auto attempt = [&](const auto& body) {
         try {

@@ -1,7 +1,7 @@
 #include "zilvo/platform/component/ComponentFile.h"
 #include "zilvo/platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/Files.h"
 
-#include <fstream>
 #include <iostream>
 
 /// zilvo-seal COMPONENT SECTION: loads a component that has just been linked and writes what it says of itself, its
@@ -14,10 +14,7 @@ int main(int argc, char** argv) try {
     }
     const LoadedComponent component(argv[1]);
     const Bytes section = resourceSection(resourcesOf(component.description()));
-    std::ofstream out(argv[2], std::ios::binary | std::ios::trunc);
-    out << std::string(section.begin(), section.end());
-    out.close();
-    if (!out) throw Failure(Status::Failed, std::string(argv[2]) + " cannot be written");
+    writeFile(argv[2], std::string(section.begin(), section.end()));
     return 0;
 } catch (const std::exception& exception) {
     std::cerr << "zilvo-seal: " << exception.what() << '\n';

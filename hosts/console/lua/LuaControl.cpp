@@ -1,6 +1,5 @@
 #include "hosts/console/lua/LuaControl.h"
 
-#include "hosts/console/Files.h"
 #include "hosts/console/Inspect.h"
 #include "hosts/console/Snapshot.h"
 #include "hosts/console/lua/LuaErrors.h"
@@ -9,6 +8,7 @@
 #include "hosts/console/lua/LuaParts.h"
 #include "hosts/console/lua/LuaValues.h"
 #include "hosts/console/lua/LuaWidget.h"
+#include "zilvo/platform/component/Files.h"
 
 #include <array>
 #include <limits>

@@ -2,8 +2,8 @@
 
 #include "hosts/console/ChildProcess.h"
 #include "hosts/console/Component.h"
-#include "hosts/console/Files.h"
 #include "hosts/console/lua/LuaHost.h"
+#include "zilvo/platform/component/Files.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -1,20 +1,14 @@
+#include "tests/support/Files.h"
+
 #include "zilvo/platform/component/ComponentFile.h"
 #include "zilvo/platform/component/ComponentRuntime.h"
 
 #include <cstring>
 #include <elf.h>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
 
 namespace zilvo::platform {
 
 namespace {
-
-std::string contentOf(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 /// A file of that content, as long as it lives.
 class BrokenFile {

@@ -1,49 +1,17 @@
+#include "tests/support/Files.h"
+
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/RegistrationStore.h"
 
-#include <csignal>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
 
 namespace zilvo {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void write(const fs::path& file, const std::string& text) {
-    std::ofstream(file, std::ios::binary) << text;
-}
-
-struct Outcome {
-    Status status = Status::Ok;
-    std::string message;
-
-    bool says(std::string_view part) const { return message.find(part) != std::string::npos; }
-};
-
-template <class Body>
-Outcome outcomeOf(const Body& body) {
-    try {
-        body();
-        return {};
-    } catch (const Failure& failure) {
-        return {failure.status(), failure.what()};
-    }
-}
 
 Guid guid(std::uint32_t number) {
     return {.data1 = number};
@@ -67,29 +35,11 @@ std::vector<std::uint32_t> classesOf(const Registration& registration) {
     return numbers;
 }
 
-/// Runs the body in a process of its own, which ends in a signal when it fails.
-template <class Body>
-pid_t inChild(const Body& body) noexcept {
-    const pid_t child = fork();
-    if (child != 0) return child;
-    body();
-    _exit(0);
-}
-
 /// A store of its own for each test, which the environment names.
-class RegistrationTest : public testing::Test {
+class RegistrationTest : public FolderTest {
 protected:
-    RegistrationTest() {
-        fs::create_directories(folder);
-        setenv(RegistrationStore::EnvironmentVariable, file.c_str(), 1);
-    }
-    ~RegistrationTest() override {
-        fs::permissions(folder, fs::perms::owner_all);
-        fs::remove_all(folder);
-    }
+    RegistrationTest() { setenv(RegistrationStore::EnvironmentVariable, file.c_str(), 1); }
 
-    const fs::path folder =
-        fs::canonical(fs::temp_directory_path()) / ("zilvo-registration-" + std::to_string(getpid()));
     const fs::path file = folder / "registrations";
     RegistrationStore store{file};
 };
@@ -260,10 +210,15 @@ TEST_F(RegistrationTest, WhereItCannotBeReadOrWritten) {
 
     store.add(component("/B.Ocx", 2, {2}));
     const std::string whole = contentOf(file);
+    const fs::path lock = folder / "registrations.lock";
+    fs::remove(lock);
+    ASSERT_EQ(mkfifo(lock.c_str(), 0600), 0);
+    EXPECT_EQ(adds(file).message, lock.string() + " cannot be written: it is no file");
     EXPECT_EQ(adds(file / "below").status, Status::RegistrationsUnreadable);
     for (const fs::path& readOnly : {file, folder}) {
         const auto usual = fs::status(readOnly).permissions();
-        fs::permissions(readOnly, fs::perms::owner_write, fs::perm_options::remove);
+        fs::permissions(readOnly, fs::perms::owner_read | fs::perms::owner_exec);
+        fs::remove(lock);
         const Outcome outcome = adds(file);
         EXPECT_EQ(outcome.status, Status::RegistrationsUnwritable);
         EXPECT_TRUE(outcome.says(readOnly.string() + " cannot be written: it is read-only")) << outcome.message;
@@ -271,21 +226,6 @@ TEST_F(RegistrationTest, WhereItCannotBeReadOrWritten) {
         fs::permissions(readOnly, usual);
     }
     EXPECT_EQ(contentOf(file), whole);
-}
-
-TEST_F(RegistrationTest, KeepsLinksAndPermissionsAndReusesWhatWasLeftOver) {
-    const fs::path link = folder / "link";
-    fs::create_symlink("deep/er/store", link);
-    RegistrationStore linked(link);
-    linked.add(component("/A.Ocx", 1, {1}));
-    const fs::path target = folder / "deep/er/store";
-    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
-    write(folder / "deep/er/store.new", std::string(100000, 'x')); // of a writer that was killed
-    linked.add(component("/B.Ocx", 2, {2}));
-    EXPECT_TRUE(fs::is_symlink(link));
-    EXPECT_EQ(RegistrationStore(target).read().size(), 2U);
-    EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_EQ(std::distance(fs::directory_iterator(target.parent_path()), {}), 2) << "the store and its lock";
 }
 
 TEST_F(RegistrationTest, ManyProcessesAtOnceLoseNothing) {
@@ -304,24 +244,6 @@ TEST_F(RegistrationTest, ManyProcessesAtOnceLoseNothing) {
         EXPECT_EQ(status, 0);
     }
     EXPECT_EQ(store.read().size(), Processes * Each);
-}
-
-TEST_F(RegistrationTest, AWriterKilledAtAnyMomentLeavesAWholeStore) {
-    store.add(component("/A.Ocx", 1, {1}));
-    for (int round = 0; round < 60; ++round) {
-        const pid_t writer = inChild([&] {
-            for (std::uint32_t i = 2;; i = 5 - i) // 2, 3, 2, ...
-                store.add(component("/B.Ocx", i, {i, i + 2}));
-        });
-        std::this_thread::sleep_for(std::chrono::microseconds(300 + round * 137));
-        kill(writer, SIGKILL);
-        waitpid(writer, nullptr, 0);
-        const auto read = store.read();
-        ASSERT_GE(read.size(), 1U);
-        EXPECT_EQ(read[0], component("/A.Ocx", 1, {1}));
-    }
-    EXPECT_LE(std::distance(fs::directory_iterator(folder), {}), 3) << "the store, its lock and one left over";
-    store.add(component("/C.Ocx", 7, {7}));
 }
 
 TEST_F(RegistrationTest, TheUsualPlace) {
