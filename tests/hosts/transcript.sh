@@ -89,8 +89,13 @@ play 1 absent.lua
 prints 'absent.lua cannot be read' absent.lua
 play 1 .
 prints 'is a directory' directory
-name=$(printf '%0250d' 0).lua # there is no room for the name of what would take its place
+name=$(printf '%0250d' 0).lua # as long as a name can be
 grep -v '^-->' story.lua >"$name"
+cp "$name" before.lua
+chmod a-w "$name"
 play 1 "$name" --write
-prints 'cannot be written: File name too long' 'the file that cannot be written'
+prints "$name cannot be written: it is read-only" 'the file that cannot be written'
+cmp -s "$name" before.lua || complain 'the file that cannot be written was'
+chmod u+w "$name"
+play 0 "$name" --write
 finish
