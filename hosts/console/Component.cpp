@@ -33,8 +33,12 @@ std::filesystem::path componentFile(const std::filesystem::path& named) {
         return "there is no component: none is named with --component FILE, none lies beside the program, at " +
                beside.string() + ", and none has been registered with zilvo register FILE";
     };
-    std::vector<Registration> registrations;
-    inContext(nothing, [&] { registrations = RegistrationStore().read(); });
+    Registrations registrations;
+    inContext(nothing, [&] {
+        for (const RegistrationStore& store : RegistrationStore::all())
+            std::ranges::move(store.read(), std::back_inserter(registrations));
+        if (registrations.empty()) RegistrationStore(); // which tells that there is no place for any
+    });
     if (registrations.empty()) throw Failure(Status::FileNotFound, nothing());
     const auto nameOfFile = [](const Registration& each) { return each.file.filename(); };
     const auto usual = std::ranges::find(registrations, UsualName, nameOfFile);

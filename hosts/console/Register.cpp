@@ -1,7 +1,9 @@
 #include "hosts/console/Register.h"
 
-#include "zilvo/platform/component/ComponentRuntime.h"
+#include "zilvo/platform/component/ComponentFile.h"
 #include "zilvo/platform/component/RegistrationStore.h"
+
+#include <iostream>
 
 namespace zilvo::console {
 
@@ -13,35 +15,37 @@ std::string line(const char* done, const Registration& registration, const Regis
     const auto library = registration.library ? toUtf8(registration.library->name) + ", " : std::string();
     const auto classes = registration.classes.size();
     return std::string(done) + " " + library + std::to_string(classes) + (classes == 1 ? " class" : " classes") +
-           " of " + registration.file.string() + ", in " + store.file().string();
+           " of " + registration.file.string() + ", in " + store.file().string() + "\n";
 }
 
-/// Null for a file that is gone or broken.
-std::unique_ptr<LoadedComponent> tryLoading(const std::filesystem::path& file) {
+/// Of a file that is gone or broken no more than its path.
+Registration ownOf(const std::filesystem::path& file) {
     try {
-        return std::make_unique<LoadedComponent>(file);
+        return registrationOf(ComponentFile(file).description(), file);
     } catch (const Failure&) {
-        return nullptr;
+        return {registeredPath(file), {}, {}, {}};
     }
 }
 
 } // namespace
 
 std::string registerComponent(const std::filesystem::path& file) {
-    const LoadedComponent component(file);
-    component.registerServer();
-    return line("registered", registrationOf(component.description(), file), RegistrationStore());
+    const ComponentFile component(file);
+    const Registration own = registrationOf(component.description(), file);
+    RegistrationStore store;
+    if (const auto damage = store.damage())
+        if (const auto aside = store.setAside())
+            std::cerr << "zilvo: " << *damage << "; the file was set aside as " << aside->string() << '\n';
+    store.add(own);
+    return line("registered", own, store);
 }
 
 std::string unregisterComponent(const std::filesystem::path& file) {
     RegistrationStore store;
-    const auto registered = store.find(file);
-    if (!registered) return file.string() + " is not registered in " + store.file().string();
-    if (const auto component = tryLoading(file))
-        component->unregisterServer();
-    else
-        store.remove(file);
-    return line("unregistered", *registered, store);
+    std::string lines;
+    for (const Registration& taken : store.remove(ownOf(file)))
+        lines += line("unregistered", taken, store);
+    return lines.empty() ? file.string() + " is not registered in " + store.file().string() + "\n" : lines;
 }
 
 } // namespace zilvo::console

@@ -5,9 +5,12 @@
 
 namespace zilvo::console {
 
-/// Both run the component's entry point and give a line that says what was done where.
+/// Both read what the component says of itself, run none of it, and give lines that say what was done where.
+
+/// A damaged registration file is set aside first, which is told on standard error.
 std::string registerComponent(const std::filesystem::path& file);
-/// What is registered for a file that is gone or broken is removed too. That nothing is registered is no failure.
+/// Takes out what is the component's own, wherever it was registered; of a file that is gone or broken, what is
+/// registered for that path. That nothing is registered is no failure.
 std::string unregisterComponent(const std::filesystem::path& file);
 
 } // namespace zilvo::console

@@ -135,12 +135,12 @@ int resources(const CommandLine& given, const ComponentFile& component) {
 }
 
 int registerFile(const CommandLine& given) {
-    std::cout << registerComponent(given.file) << '\n';
+    std::cout << registerComponent(given.file);
     return 0;
 }
 
 int unregisterFile(const CommandLine& given) {
-    std::cout << unregisterComponent(given.file) << '\n';
+    std::cout << unregisterComponent(given.file);
     return 0;
 }
 

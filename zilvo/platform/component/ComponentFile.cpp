@@ -1,6 +1,7 @@
 #include "zilvo/platform/component/ComponentFile.h"
 
 #include "zilvo/platform/component/ElfFile.h"
+#include "zilvo/platform/component/Files.h"
 
 #include <algorithm>
 
@@ -50,7 +51,7 @@ Bytes resourceSection(std::span<const Resource> resources) {
 }
 
 ComponentFile::ComponentFile(const std::filesystem::path& file)
-    : file_(absoluteFile(file)),
+    : file_(absolutePath(file)),
       name_(file_.string()),
       content_(contentOf(name_)),
       version_(resource(u"VERSION")),

@@ -1,6 +1,7 @@
 #include "zilvo/platform/component/ComponentRuntime.h"
 
 #include "zilvo/platform/component/ElfFile.h"
+#include "zilvo/platform/component/Files.h"
 
 #include <dlfcn.h>
 
@@ -22,7 +23,7 @@ Entry* entryPoint(void* library, const char* name, std::string& missing) {
 
 } // namespace
 
-LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(absoluteFile(file)) {
+LoadedComponent::LoadedComponent(const std::filesystem::path& file) : file_(absolutePath(file)) {
     const ElfFile whole(file_);
     library_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
     if (!library_) refuse(file_, dlerror());

@@ -11,18 +11,25 @@ struct RegisteredClass {
     Guid classId;
 };
 
-/// The newest of that name; fails with ClassNotAvailable.
-RegisteredClass newestOf(StringView name, const RegistrationStore& store) {
+/// The newest of that name; null when there is none.
+std::optional<RegisteredClass> newestOf(StringView name, const RegistrationStore& store) {
     const auto id = Guid::parse(toUtf8(name));
     std::optional<RegisteredClass> newest;
     for (const Registration& registration : store.read())
         for (const auto& each : registration.classes)
             if (sameName(each.progId, name) || sameName(each.name, name) || each.classId == id)
                 newest = {registration.file, each.classId};
-    if (!newest)
-        throw Failure(Status::ClassNotAvailable, "neither a known component nor the registrations in " +
-                                                     store.file().string() + " have a class " + toUtf8(name));
-    return *newest;
+    return newest;
+}
+
+/// The user's, and behind it those of the machine that are there.
+std::string listOf(const std::vector<RegistrationStore>& stores) {
+    std::string list;
+    std::error_code error;
+    for (const RegistrationStore& store : stores)
+        if (list.empty() || std::filesystem::exists(store.file(), error))
+            list += (list.empty() ? "" : " and ") + store.file().string();
+    return list;
 }
 
 } // namespace
@@ -51,19 +58,23 @@ Components::Found Components::find(StringView name) {
 }
 
 Components::Found Components::findRegistered(StringView name) {
-    const auto file = RegistrationStore::usualFile();
-    if (!file)
+    const auto stores = RegistrationStore::all();
+    for (const RegistrationStore& store : stores) {
+        const auto found = newestOf(name, store);
+        if (!found) continue;
+        const auto registered = [&](const char* how) { return toUtf8(name) + how + store.file().string(); };
+        KnownComponent* component = nullptr;
+        inContext([&] { return registered(", registered in "); }, [&] { component = &add(found->file); });
+        if (!component->description().find(found->classId))
+            throw Failure(Status::ClassNotAvailable, registered(" is registered in ") + " for " + found->file.string() +
+                                                         ", which does not have it");
+        return {*component, toUtf16(found->classId.text())};
+    }
+    if (!RegistrationStore::usualFile())
         throw Failure(Status::ClassNotAvailable,
                       "no known component has a class " + toUtf8(name) + ", and there is no place for registrations");
-    const RegistrationStore store(*file);
-    const RegisteredClass found = newestOf(name, store);
-    KnownComponent* component = nullptr;
-    inContext([&] { return toUtf8(name) + ", registered in " + store.file().string(); },
-              [&] { component = &add(found.file); });
-    if (!component->description().find(found.classId))
-        throw Failure(Status::ClassNotAvailable, toUtf8(name) + " is registered in " + store.file().string() + " for " +
-                                                     found.file.string() + ", which does not have it");
-    return {*component, toUtf16(found.classId.text())};
+    throw Failure(Status::ClassNotAvailable, "neither a known component nor the registrations in " + listOf(stores) +
+                                                 " have a class " + toUtf8(name));
 }
 
 std::size_t Components::liveObjects() const {

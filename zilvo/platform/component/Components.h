@@ -38,9 +38,9 @@ public:
     KnownComponent& add(const std::filesystem::path& file);
 
     /// Creates an instance by ProgID, class id or class name, without case. What no known component has is looked for
-    /// in the user's registration store, and its component is added. Fails with ClassNotAvailable when the class is
-    /// not registered, or its component lacks it after all; with FileNotFound or BadComponent when the registered file
-    /// is gone or broken; and as reading the store and the class's Initialize do.
+    /// in the registration stores, the user's first, and its component is added. Fails with ClassNotAvailable when the
+    /// class is not registered, or its component lacks it after all; with FileNotFound or BadComponent when the
+    /// registered file is gone or broken; and as reading the stores and the class's Initialize do.
     Ref<Object> create(StringView name);
 
     /// The one instance of an application object, found in the same way; see LoadedComponent::application().

@@ -19,13 +19,6 @@ namespace {
 
 } // namespace
 
-std::filesystem::path absoluteFile(const std::filesystem::path& file) {
-    std::error_code error;
-    auto place = std::filesystem::absolute(file, error);
-    if (error) cannotRead(file.string(), error.message());
-    return place;
-}
-
 ElfFile::ElfFile(const std::filesystem::path& file) : name_(file.string()) {
     std::error_code error;
     const auto found = std::filesystem::status(file, error);

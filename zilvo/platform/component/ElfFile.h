@@ -9,9 +9,6 @@
 
 namespace zilvo::platform {
 
-/// The component file wherever the working folder is later. Fails with BadComponent for no name, or in no folder.
-std::filesystem::path absoluteFile(const std::filesystem::path& file);
-
 /// A loadable module of this machine as a file, of which nothing is run. Its headers are checked when it is opened: the
 /// loader maps what they promise and dies when the file ends before that.
 class ElfFile {

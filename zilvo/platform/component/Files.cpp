@@ -140,6 +140,13 @@ void makeFolder(const std::filesystem::path& folder, Status onFailure) {
     if (error) throw Failure(onFailure, "the directory " + folder.string() + " cannot be made: " + error.message());
 }
 
+std::filesystem::path absolutePath(const std::filesystem::path& file) {
+    std::error_code error;
+    auto path = std::filesystem::absolute(file, error);
+    if (error) throw Failure(Status::FileNotFound, file.string() + " cannot be found: " + error.message());
+    return path;
+}
+
 std::filesystem::path withoutLinks(std::filesystem::path file) {
     constexpr int MostLinks = 40; // as the system follows
     std::error_code error;

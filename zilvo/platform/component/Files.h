@@ -46,6 +46,9 @@ void writeFile(const std::filesystem::path& file, std::string_view bytes, Status
 /// Makes the folder and those above it where they are missing. Fails with `onFailure`.
 void makeFolder(const std::filesystem::path& folder, Status onFailure = Status::Failed);
 
+/// Fails with FileNotFound when there is no current folder any more.
+std::filesystem::path absolutePath(const std::filesystem::path& file);
+
 /// The file that a link, or a chain of them, names; it may be missing. Of links in a circle, one.
 std::filesystem::path withoutLinks(std::filesystem::path file);
 

@@ -1,5 +1,11 @@
 #include "zilvo/platform/component/Registration.h"
 
+#include "zilvo/platform/component/Files.h"
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
 namespace zilvo::platform {
 
 namespace {
@@ -25,6 +31,42 @@ Registration::Class classOf(const LibraryIdentity& library, const ClassIdentity&
             .miscStatus = identity.miscStatus};
 }
 
+bool isEmpty(const Registration& registration) {
+    return !registration.library && registration.classes.empty() && registration.interfaces.empty();
+}
+
+/// What a component calls its own.
+struct Ids {
+    explicit Ids(const Registration& own) {
+        if (own.library) libraries.insert(own.library->id);
+        for (const auto& each : own.classes)
+            classes.insert(each.classId);
+        for (const auto& each : own.interfaces)
+            interfaces.insert(each.id);
+    }
+
+    std::set<Guid> libraries;
+    std::set<Guid> classes;
+    std::set<Guid> interfaces;
+};
+
+template <class Part>
+std::vector<Part> partsOf(const std::set<Guid>& ids, Guid Part::*id, std::vector<Part>& parts) {
+    const auto others =
+        std::ranges::stable_partition(parts, [&](const Part& part) { return !ids.contains(std::invoke(id, part)); });
+    std::vector<Part> own(others.begin(), others.end());
+    parts.erase(others.begin(), others.end());
+    return own;
+}
+
+Registration takeOut(const Ids& ids, Registration& from) {
+    Registration own{from.file, {}, {}, {}};
+    if (from.library && ids.libraries.contains(from.library->id)) own.library.swap(from.library);
+    own.classes = partsOf(ids.classes, &Registration::Class::classId, from.classes);
+    own.interfaces = partsOf(ids.interfaces, &Registration::Interface::id, from.interfaces);
+    return own;
+}
+
 } // namespace
 
 Registration registrationOf(const ComponentDescription& component, const std::filesystem::path& file) {
@@ -43,7 +85,26 @@ Registration registrationOf(const ComponentDescription& component, const std::fi
 }
 
 std::filesystem::path registeredPath(const std::filesystem::path& file) {
-    return std::filesystem::weakly_canonical(std::filesystem::absolute(file));
+    std::error_code error;
+    auto path = std::filesystem::weakly_canonical(absolutePath(file), error);
+    if (error) throw Failure(Status::FileNotFound, file.string() + " cannot be found: " + error.message());
+    return path;
+}
+
+Registrations takeOut(const Registration& own, Registrations& from) {
+    const Ids ids(own);
+    Registrations taken;
+    for (Registration& each : from)
+        taken.push_back(each.file == own.file ? std::exchange(each, {}) : takeOut(ids, each));
+    std::erase_if(from, isEmpty);
+    std::erase_if(taken, isEmpty);
+    return taken;
+}
+
+void enter(const Registration& newcomer, Registrations& into) {
+    if (std::ranges::find(into, newcomer) != into.end()) return;
+    takeOut(newcomer, into);
+    into.push_back(newcomer);
 }
 
 } // namespace zilvo::platform

@@ -55,10 +55,22 @@ struct Registration {
     friend bool operator==(const Registration&, const Registration&) = default;
 };
 
+/// In the order in which they were made. No id, and no file, is in them twice.
+using Registrations = std::vector<Registration>;
+
 /// All that the component in that file registers.
 Registration registrationOf(const ComponentDescription& component, const std::filesystem::path& file);
 
-/// The one path under which a component file is registered, however it was named. The file may be missing.
+/// The one path under which a component file is registered, however it was named. The file may be missing. Fails with
+/// FileNotFound for a path that leads nowhere.
 std::filesystem::path registeredPath(const std::filesystem::path& file);
+
+/// Takes out what is registered for the file of `own`, and what is registered under an id of `own` for any other file,
+/// which keeps the rest. Gives what was taken out, for each file.
+Registrations takeOut(const Registration& own, Registrations& from);
+
+/// Enters the newcomer, which takes over what is its own wherever it lies: first it is taken out. Changes nothing when
+/// all of that is registered as it is.
+void enter(const Registration& newcomer, Registrations& into);
 
 } // namespace zilvo::platform

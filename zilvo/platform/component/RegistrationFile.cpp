@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -64,6 +65,15 @@ RegistrationFileLock::RegistrationFileLock(const std::filesystem::path& file)
 
 void RegistrationFileLock::replace(std::string_view text) const {
     writeFile(file_, text, Status::RegistrationsUnwritable);
+}
+
+std::filesystem::path RegistrationFileLock::setAside() const {
+    std::error_code error;
+    auto aside = std::filesystem::path(file_) += ".damaged";
+    for (int number = 2; std::filesystem::exists(std::filesystem::symlink_status(aside, error)); ++number)
+        aside = std::filesystem::path(file_) += ".damaged-" + std::to_string(number);
+    if (std::rename(file_.c_str(), aside.c_str()) != 0) cannotWrite(aside, systemReason());
+    return aside;
 }
 
 } // namespace zilvo::platform

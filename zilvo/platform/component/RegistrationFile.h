@@ -19,6 +19,8 @@ public:
 
     /// As writeFile() does.
     void replace(std::string_view text) const;
+    /// Renames the file to a name that nothing has yet, and gives it: NAME.damaged, NAME.damaged-2, ...
+    std::filesystem::path setAside() const;
 
 private:
     std::filesystem::path file_; ///< no link

@@ -5,37 +5,19 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <sstream>
 
 namespace zilvo::platform {
 
 namespace {
 
-using Registrations = std::vector<Registration>;
+constexpr const char* BelowData = "zilvo/registrations";
 
-/// Takes from an earlier registration what the newcomer registers too.
-void takeOver(Registration& earlier, const Registration& newcomer) {
-    if (earlier.library && newcomer.library && earlier.library->id == newcomer.library->id) earlier.library.reset();
-    const auto take = [](auto& from, const auto& newOnes, auto id) {
-        std::erase_if(from, [&](const auto& each) {
-            return std::ranges::find(newOnes, std::invoke(id, each), id) != newOnes.end();
-        });
-    };
-    take(earlier.classes, newcomer.classes, &Registration::Class::classId);
-    take(earlier.interfaces, newcomer.interfaces, &Registration::Interface::id);
-}
-
-bool isEmpty(const Registration& registration) {
-    return !registration.library && registration.classes.empty() && registration.interfaces.empty();
-}
-
-void removeFor(const std::filesystem::path& file, Registrations& from) {
-    std::erase_if(from, [&](const Registration& each) { return each.file == file; });
-}
-
-/// Null when the variable is not set, or empty, which counts as the same.
-std::optional<std::filesystem::path> pathIn(const char* variable) {
+/// Null when the variable is not set, or to no absolute path, which counts as the same.
+std::optional<std::filesystem::path> folderIn(const char* variable) {
     const char* value = std::getenv(variable);
-    return value && *value ? std::optional<std::filesystem::path>(value) : std::nullopt;
+    return value && std::filesystem::path(value).is_absolute() ? std::optional<std::filesystem::path>(value)
+                                                               : std::nullopt;
 }
 
 } // namespace
@@ -43,22 +25,33 @@ std::optional<std::filesystem::path> pathIn(const char* variable) {
 RegistrationStore::RegistrationStore() {
     const auto file = usualFile();
     if (!file)
-        throw Failure(Status::RegistrationsUnreadable, std::string("there is no place for registrations: none of ") +
-                                                           EnvironmentVariable + ", XDG_DATA_HOME and HOME is set");
-    file_ = std::filesystem::absolute(*file);
+        throw Failure(Status::RegistrationsUnreadable,
+                      std::string("there is no place for registrations: none of ") + EnvironmentVariable +
+                          ", XDG_DATA_HOME and HOME is set, the latter two to an absolute path");
+    file_ = absolutePath(*file);
 }
 
-RegistrationStore::RegistrationStore(const std::filesystem::path& file) : file_(std::filesystem::absolute(file)) {}
+RegistrationStore::RegistrationStore(const std::filesystem::path& file) : file_(absolutePath(file)) {}
 
 std::optional<std::filesystem::path> RegistrationStore::usualFile() {
-    constexpr const char* BelowData = "zilvo/registrations";
     if (const char* given = std::getenv(EnvironmentVariable)) {
         if (*given) return given;
         throw Failure(Status::RegistrationsUnreadable, std::string(EnvironmentVariable) + " is set, but names no file");
     }
-    if (const auto data = pathIn("XDG_DATA_HOME"); data && data->is_absolute()) return *data / BelowData;
-    if (const auto home = pathIn("HOME")) return *home / ".local/share" / BelowData;
+    if (const auto data = folderIn("XDG_DATA_HOME")) return *data / BelowData;
+    if (const auto home = folderIn("HOME")) return *home / ".local/share" / BelowData;
     return std::nullopt;
+}
+
+std::vector<RegistrationStore> RegistrationStore::all() {
+    std::vector<RegistrationStore> stores;
+    if (const auto file = usualFile()) stores.emplace_back(*file);
+    if (std::getenv(EnvironmentVariable)) return stores;
+    const char* given = std::getenv("XDG_DATA_DIRS");
+    std::istringstream folders(given && *given ? given : "/usr/local/share:/usr/share");
+    for (std::string folder; std::getline(folders, folder, ':');)
+        if (folder.starts_with('/')) stores.emplace_back(std::filesystem::path(folder) / BelowData);
+    return stores;
 }
 
 Registrations RegistrationStore::read() const {
@@ -73,35 +66,43 @@ std::optional<Registration> RegistrationStore::find(const std::filesystem::path&
 }
 
 void RegistrationStore::add(const Registration& registration) {
-    change([&](Registrations& all) {
-        if (std::ranges::find(all, registration) != all.end()) return;
-        removeFor(registration.file, all);
-        for (Registration& earlier : all)
-            takeOver(earlier, registration);
-        std::erase_if(all, isEmpty);
-        all.push_back(registration);
-    });
+    change([&](Registrations& all) { enter(registration, all); });
 }
 
-bool RegistrationStore::remove(const std::filesystem::path& componentFile) {
-    return change([file = registeredPath(componentFile)](Registrations& all) { removeFor(file, all); });
+Registrations RegistrationStore::remove(const Registration& own) {
+    Registrations taken;
+    change([&](Registrations& all) { taken = takeOut(own, all); });
+    return taken;
 }
 
-bool RegistrationStore::change(const std::function<void(Registrations&)>& edit) {
+std::optional<std::string> RegistrationStore::damage() const {
+    try {
+        read();
+        return std::nullopt;
+    } catch (const DamagedRegistrations& damaged) {
+        return damaged.what();
+    }
+}
+
+std::optional<std::filesystem::path> RegistrationStore::setAside() {
+    const RegistrationFileLock lock(file_);
+    return damage() ? std::optional(lock.setAside()) : std::nullopt;
+}
+
+void RegistrationStore::change(const std::function<void(Registrations&)>& edit) {
     const auto edited = [&]() -> std::optional<Registrations> {
         const Registrations before = read();
         Registrations after = before;
         edit(after);
         return after == before ? std::nullopt : std::optional(after);
     };
-    if (!edited()) return false; // which needs neither a lock nor permission
+    if (!edited()) return; // which needs neither a lock nor permission
     const RegistrationFileLock lock(file_);
     const auto after = edited();
-    if (!after) return false;
+    if (!after) return;
     const std::string text = textOf(*after);
     registrationsIn(text, file_.string() + ", as it would be written"); // a store that cannot be read is not written
     lock.replace(text);
-    return true;
 }
 
 } // namespace zilvo::platform

@@ -6,9 +6,9 @@
 
 namespace zilvo::platform {
 
-/// The user's registrations, in one file that any number of processes read and change at once. All calls throw
-/// Failures: RegistrationsUnreadable for a file that is damaged, naming the line, that a newer version wrote, or that
-/// is no file; RegistrationsUnwritable where it cannot be replaced. A change that fails leaves the file as it was.
+/// Registrations in one file that any number of processes read and change at once. All calls throw Failures:
+/// RegistrationsUnreadable for a file that is damaged, naming the line, that a newer version wrote, or that is no file;
+/// RegistrationsUnwritable where it cannot be replaced. A change that fails leaves the file as it was.
 class RegistrationStore {
 public:
     /// Names another file than the usual one.
@@ -18,26 +18,34 @@ public:
     RegistrationStore();
     explicit RegistrationStore(const std::filesystem::path& file);
 
-    /// $ZILVO_REGISTRATIONS, else $XDG_DATA_HOME/zilvo/registrations, else $HOME/.local/share/zilvo/registrations;
-    /// nothing when none of the variables is set. Fails with RegistrationsUnreadable when the first is set but empty:
-    /// whoever sets it wants another file than the user's own.
+    /// The user's: $ZILVO_REGISTRATIONS, else $XDG_DATA_HOME/zilvo/registrations, else
+    /// $HOME/.local/share/zilvo/registrations, where the latter two count when they are absolute; nothing when none
+    /// does. Fails with RegistrationsUnreadable when the first is set but empty: whoever sets it wants another file
+    /// than the user's own.
     static std::optional<std::filesystem::path> usualFile();
+    /// Where a host looks for a class, one after the other: in the usual file, then in those of the machine,
+    /// zilvo/registrations in each absolute folder of $XDG_DATA_DIRS, which an administrator writes.
+    /// $ZILVO_REGISTRATIONS names the only one.
+    static std::vector<RegistrationStore> all();
 
     const std::filesystem::path& file() const noexcept { return file_; }
 
     /// In the order in which they were made; none when there is no file yet.
-    std::vector<Registration> read() const;
+    Registrations read() const;
     std::optional<Registration> find(const std::filesystem::path& componentFile) const;
 
-    /// Replaces what that file registered before. What another component registered under the same class id, interface
-    /// id or type library is taken over; the other one keeps the rest.
+    /// As enter() and takeOut() do.
     void add(const Registration& registration);
-    /// Forgets what is registered for that file; false when nothing is.
-    bool remove(const std::filesystem::path& componentFile);
+    Registrations remove(const Registration& own);
+
+    /// What is wrong with the text of the file, with the line; null when it is sound or there is none.
+    std::optional<std::string> damage() const;
+    /// Gives a damaged file another name, so that a new one can be begun, and tells it. Null when it is not damaged.
+    std::optional<std::filesystem::path> setAside();
 
 private:
-    /// Writes only what differs; false when nothing does.
-    bool change(const std::function<void(std::vector<Registration>&)>& edit);
+    /// Writes only what differs.
+    void change(const std::function<void(Registrations&)>& edit);
 
     std::filesystem::path file_;
 };

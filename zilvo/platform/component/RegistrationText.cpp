@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <map>
 #include <set>
 
 namespace zilvo::platform {
@@ -23,8 +24,10 @@ std::string heading() {
     return std::string(Heading) + std::to_string(Format);
 }
 
+/// Of a text that nobody would read to its end, the beginning.
 std::string inQuotes(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
+    constexpr std::size_t Most = 300;
+    return "\"" + std::string(text.substr(0, Most)) + (text.size() > Most ? "...\"" : "\"");
 }
 
 std::string hexadecimal(std::uint32_t number, int digits) {
@@ -213,14 +216,14 @@ private:
 struct Source {
     const std::string& name;
 
+    std::string at(std::size_t line) const { return name + ", line " + std::to_string(line) + ": "; }
     [[noreturn]] void refuse(std::size_t line, const std::string& why) const {
-        throw Failure(Status::RegistrationsUnreadable, name + ", line " + std::to_string(line) + ": " + why);
+        throw DamagedRegistrations(Status::RegistrationsUnreadable, at(line) + why);
     }
 };
 
 struct Line {
     std::size_t number;
-    std::string key;
     std::string value;
     bool isRead = false;
 };
@@ -228,11 +231,11 @@ struct Line {
 struct Section {
     std::size_t line;
     std::string name;
-    std::vector<Line> lines;
+    std::map<std::string, Line, std::less<>> lines; ///< by key
 
     Line* find(std::string_view key) {
-        const auto found = std::ranges::find(lines, key, &Line::key);
-        return found == lines.end() ? nullptr : &*found;
+        const auto found = lines.find(key);
+        return found == lines.end() ? nullptr : &found->second;
     }
 };
 
@@ -247,20 +250,20 @@ public:
 
     void fixed(std::string_view key, std::string_view text) {
         const Line& line = take(key);
-        if (line.value != text) refuse(line, "is not " + inQuotes(text));
+        if (line.value != text) refuse(key, line, "is not " + inQuotes(text));
     }
     template <class Value>
     void value(std::string_view key, Value& value, std::string_view before = {}) {
         const Line& line = take(key);
         const auto text = std::string_view(line.value).substr(std::min(before.size(), line.value.size()));
         if (!line.value.starts_with(before) || !read(text, value) || written(value) != text)
-            refuse(line, "is malformed");
+            refuse(key, line, "is malformed");
     }
     template <class Value>
     void unique(std::string_view key, Value& value) {
         this->value(key, value);
         const Line& line = take(key);
-        if (!uniques_.emplace(section_.name, line.value).second) refuse(line, "stands twice");
+        if (!uniques_.emplace(section_.name, line.value).second) refuse(key, line, "stands twice");
     }
     void mark(std::string_view key, bool& isSet) {
         isSet = section_.find(key) != nullptr;
@@ -269,8 +272,10 @@ public:
 
     /// Fails when there is a key that nothing asked for.
     void finish() const {
-        for (const Line& line : section_.lines)
-            if (!line.isRead) source_.refuse(line.number, "[" + section_.name + "] has no key " + inQuotes(line.key));
+        const auto unreadFirst = [](const auto& entry) { return std::pair(entry.second.isRead, entry.second.number); };
+        const auto first = std::ranges::min_element(section_.lines, {}, unreadFirst);
+        if (first != section_.lines.end() && !first->second.isRead)
+            source_.refuse(first->second.number, "[" + section_.name + "] has no key " + inQuotes(first->first));
     }
 
 private:
@@ -280,8 +285,8 @@ private:
         line->isRead = true;
         return *line;
     }
-    [[noreturn]] void refuse(const Line& line, const std::string& why) const {
-        source_.refuse(line.number, "the " + line.key + " " + inQuotes(line.value) + " " + why);
+    [[noreturn]] void refuse(std::string_view key, const Line& line, const std::string& why) const {
+        source_.refuse(line.number, "the " + std::string(key) + " " + inQuotes(line.value) + " " + why);
     }
 
     Section& section_;
@@ -289,54 +294,35 @@ private:
     const Source& source_;
 };
 
-std::vector<std::string_view> linesOf(std::string_view text) {
-    std::vector<std::string_view> lines;
-    for (std::size_t end = 0; (end = text.find('\n')) != std::string_view::npos; text.remove_prefix(end + 1))
-        lines.push_back(text.substr(0, end));
-    if (!text.empty()) lines.push_back(text);
-    return lines;
-}
-
 /// Fails for a text that is of another format, or not whole.
-void checkFrame(std::string_view text, const std::vector<std::string_view>& lines, const Source& source) {
-    const auto first = lines.empty() ? std::string_view() : lines.front();
+void checkFrame(std::string_view text, const Source& source) {
+    const auto first = text.substr(0, text.find('\n'));
     const auto format = first.starts_with(Heading) ? parse<unsigned>(first.substr(Heading.size())) : std::nullopt;
     if (format && *format > Format)
-        source.refuse(1, "it was written by a newer version, in format " + std::to_string(*format));
+        throw Failure(Status::RegistrationsUnreadable,
+                      source.at(1) + "it was written by a newer version, in format " + std::to_string(*format));
     if (first != heading()) source.refuse(1, "it does not begin with " + inQuotes(heading()));
-    if (lines.back() != End || !text.ends_with('\n'))
-        source.refuse(lines.size(), "it is cut short: its last line is not " + inQuotes(End));
+    if (!text.ends_with("\n" + std::string(End) + "\n")) {
+        const auto ends = static_cast<std::size_t>(std::ranges::count(text, '\n'));
+        source.refuse(ends + (text.ends_with('\n') ? 0 : 1), "it is cut short: its last line is not " + inQuotes(End));
+    }
 }
 
-void readLine(std::string_view text, std::size_t number, std::vector<Section>& sections, const Source& source) {
-    if (text.empty()) return;
-    if (text.starts_with('[') && text.ends_with(']')) {
-        sections.push_back({number, std::string(text.substr(1, text.size() - 2)), {}});
-        return;
-    }
+void readLine(std::string_view text, std::size_t number, std::optional<Section>& section, const Source& source) {
     const std::size_t equals = text.find(" =");
     const auto key = text.substr(0, equals);
     const auto value = equals == std::string_view::npos
                            ? std::nullopt
                            : unescaped(text.substr(std::min(equals + std::string_view(" = ").size(), text.size())));
-    if (sections.empty() || !value || lineOf(key, *value) != text)
+    if (!section || !value || lineOf(key, *value) != text)
         source.refuse(number, "it is neither a section nor a key with its value");
-    if (sections.back().find(key)) source.refuse(number, "the key " + inQuotes(key) + " stands twice");
-    sections.back().lines.push_back({number, std::string(key), *value});
-}
-
-std::vector<Section> sectionsOf(std::string_view text, const Source& source) {
-    const auto lines = linesOf(text);
-    checkFrame(text, lines, source);
-    std::vector<Section> sections;
-    for (std::size_t i = 1; i + 1 < lines.size(); ++i)
-        readLine(lines[i], i + 1, sections, source);
-    return sections;
+    if (!section->lines.try_emplace(std::string(key), Line{number, *value}).second)
+        source.refuse(number, "the key " + inQuotes(key) + " stands twice");
 }
 
 /// What a component registers besides itself.
 void readPart(const Section& section, Reader& reader, Registration& registration, const Source& source) {
-    const std::string file = registration.file.string();
+    const std::string& file = registration.file.native();
     if (section.name == LibrarySection) {
         if (registration.library) source.refuse(section.line, "the component has a second type library");
         listLibrary(reader, registration.library.emplace(Registration::TypeLibrary()), file);
@@ -349,12 +335,23 @@ void readPart(const Section& section, Reader& reader, Registration& registration
     }
 }
 
+void readSection(Section& section, Uniques& uniques, Registrations& registrations, const Source& source) {
+    Reader reader(section, uniques, source);
+    if (section.name == ComponentSection)
+        listComponent(reader, registrations.emplace_back());
+    else if (registrations.empty())
+        source.refuse(section.line, "[" + section.name + "] stands before any [component]");
+    else
+        readPart(section, reader, registrations.back(), source);
+    reader.finish();
+}
+
 } // namespace
 
 std::string textOf(std::span<const Registration> registrations) {
     Writer writer;
     for (const Registration& registration : registrations) {
-        const std::string file = registration.file.string();
+        const std::string& file = registration.file.native();
         writer.section(ComponentSection);
         listComponent(writer, registration);
         if (registration.library) {
@@ -373,20 +370,30 @@ std::string textOf(std::span<const Registration> registrations) {
     return heading() + "\n" + writer.text() + "\n" + std::string(End) + "\n";
 }
 
-std::vector<Registration> registrationsIn(std::string_view text, const std::string& sourceName) {
+Registrations registrationsIn(std::string_view text, const std::string& sourceName) {
     const Source source{sourceName};
+    checkFrame(text, source);
+    text.remove_suffix(End.size() + 1);
+
     Uniques uniques;
-    std::vector<Registration> registrations;
-    for (Section& section : sectionsOf(text, source)) {
-        Reader reader(section, uniques, source);
-        if (section.name == ComponentSection)
-            listComponent(reader, registrations.emplace_back());
-        else if (registrations.empty())
-            source.refuse(section.line, "[" + section.name + "] stands before any [component]");
-        else
-            readPart(section, reader, registrations.back(), source);
-        reader.finish();
+    Registrations registrations;
+    std::optional<Section> section;
+    const auto finish = [&] {
+        if (section) readSection(*section, uniques, registrations, source);
+    };
+    std::size_t number = 1;
+    for (std::size_t at = text.find('\n') + 1; at < text.size();) {
+        const auto line = text.substr(at, text.find('\n', at) - at);
+        at += line.size() + 1;
+        ++number;
+        if (line.starts_with('[') && line.ends_with(']')) {
+            finish();
+            section.emplace(Section{number, std::string(line.substr(1, line.size() - 2)), {}});
+        } else if (!line.empty()) {
+            readLine(line, number, section, source);
+        }
     }
+    finish();
     return registrations;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zilvo/platform/component/Registration.h"
+#include "zilvo/platform/values/Status.h"
 
 #include <span>
 
@@ -24,8 +25,15 @@ namespace zilvo::platform {
 /// The last line shows that the text is whole.
 std::string textOf(std::span<const Registration> registrations);
 
-/// Reads such a text. Fails with RegistrationsUnreadable for anything that textOf() would not write, blank lines and
-/// the order of the keys apart; the message names the source, the line and what is wrong there.
-std::vector<Registration> registrationsIn(std::string_view text, const std::string& source);
+/// What reading a text fails with that is not whole, or was altered: RegistrationsUnreadable.
+class DamagedRegistrations final : public Failure {
+public:
+    using Failure::Failure;
+};
+
+/// Reads such a text. Fails with DamagedRegistrations for anything that textOf() would not write, blank lines and the
+/// order of the keys apart, and with a mere Failure, RegistrationsUnreadable, for a text that a newer version wrote;
+/// the message names the source, the line and what is wrong there.
+Registrations registrationsIn(std::string_view text, const std::string& source);
 
 } // namespace zilvo::platform

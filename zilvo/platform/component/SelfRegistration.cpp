@@ -30,6 +30,10 @@ std::filesystem::path fileOf(const ComponentModule& module) {
     throw Failure(Status::FileNotFound, "the file of the component cannot be found");
 }
 
+Registration ownOf(const ComponentModule& module) {
+    return registrationOf(module.description(), fileOf(module));
+}
+
 template <class Body>
 Status keepingTheMessage(const ComponentModule& module, const Body& body) noexcept {
     registrationError.message.clear();
@@ -40,12 +44,11 @@ Status keepingTheMessage(const ComponentModule& module, const Body& body) noexce
 } // namespace
 
 Status registerServer(const ComponentModule& module) noexcept {
-    return keepingTheMessage(module,
-                             [&] { RegistrationStore().add(registrationOf(module.description(), fileOf(module))); });
+    return keepingTheMessage(module, [&] { RegistrationStore().add(ownOf(module)); });
 }
 
 Status unregisterServer(const ComponentModule& module) noexcept {
-    return keepingTheMessage(module, [&] { RegistrationStore().remove(fileOf(module)); });
+    return keepingTheMessage(module, [&] { RegistrationStore().remove(ownOf(module)); });
 }
 
 ErrorInfo takeRegistrationError() noexcept {

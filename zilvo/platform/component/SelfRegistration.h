@@ -8,7 +8,8 @@
 namespace zilvo::platform {
 
 /// Serve DllRegisterServer and DllUnregisterServer: enter the component that the module lies in into the user's
-/// registration store, and take it out again. Doing either twice changes nothing and is no failure.
+/// registration store, and take it out again, wherever it was registered. Doing either twice changes nothing and is no
+/// failure.
 Status registerServer(const ComponentModule& module) noexcept;
 Status unregisterServer(const ComponentModule& module) noexcept;
 
