@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <map>
 #include <set>
 
@@ -30,10 +29,11 @@ std::string inQuotes(std::string_view text) {
     return "\"" + std::string(text.substr(0, Most)) + (text.size() > Most ? "...\"" : "\"");
 }
 
-std::string hexadecimal(std::uint32_t number, int digits) {
-    std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), "%0*X", digits, number);
-    return text.data();
+std::string hexadecimal(std::uint32_t number, std::size_t digits) {
+    std::string text(digits, '0');
+    for (std::size_t at = digits; at-- > 0; number >>= 4U)
+        text[at] = "0123456789ABCDEF"[number & 0xFU];
+    return text;
 }
 
 template <class Number>
@@ -46,7 +46,8 @@ std::optional<Number> parse(std::string_view text, int base = 10) {
 // Lines. Any bytes fit into one.
 
 std::string escaped(std::string_view bytes) {
-    const bool isUtf8 = toUtf8(toUtf16(bytes)) == bytes;
+    const bool isAscii = std::ranges::all_of(bytes, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+    const bool isUtf8 = isAscii || toUtf8(toUtf16(bytes)) == bytes;
     const auto isPlain = [&](std::size_t at) {
         const auto byte = static_cast<unsigned char>(bytes[at]);
         if (byte == ' ') return at > 0 && at + 1 < bytes.size();
