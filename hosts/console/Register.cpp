@@ -1,7 +1,6 @@
 #include "hosts/console/Register.h"
 
 #include "zilvo/platform/component/ComponentFile.h"
-#include "zilvo/platform/component/RegistrationStore.h"
 
 #include <iostream>
 
@@ -29,13 +28,19 @@ Registration ownOf(const std::filesystem::path& file) {
 
 } // namespace
 
+bool setAsideWhenDamaged(RegistrationStore& store) {
+    const auto damage = store.damage();
+    if (!damage) return false;
+    std::cerr << "zilvo: " << *damage << ": the file is set aside\n";
+    if (const auto aside = store.setAside()) std::cerr << "zilvo: it is " << aside->string() << " now\n";
+    return true;
+}
+
 std::string registerComponent(const std::filesystem::path& file) {
     const ComponentFile component(file);
     const Registration own = registrationOf(component.description(), file);
     RegistrationStore store;
-    if (const auto damage = store.damage())
-        if (const auto aside = store.setAside())
-            std::cerr << "zilvo: " << *damage << "; the file was set aside as " << aside->string() << '\n';
+    setAsideWhenDamaged(store);
     store.add(own);
     return line("registered", own, store);
 }

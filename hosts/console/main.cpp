@@ -5,6 +5,7 @@
 #include "hosts/console/Inspect.h"
 #include "hosts/console/Output.h"
 #include "hosts/console/Register.h"
+#include "hosts/console/Registrations.h"
 #include "hosts/console/ResourceFiles.h"
 #include "hosts/console/Snapshot.h"
 #include "hosts/console/lua/LuaHost.h"
@@ -16,6 +17,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <unistd.h>
@@ -41,6 +43,7 @@ struct CommandLine {
     bool write = false;
     bool json = false;
     bool idl = false;
+    bool repair = false;
 };
 
 int run(const CommandLine& given) {
@@ -144,6 +147,17 @@ int unregisterFile(const CommandLine& given) {
     return 0;
 }
 
+int listRegistrations(const CommandLine& given) {
+    if (given.repair) {
+        repairRegistrations();
+        return 0;
+    }
+    const Json all = registrations();
+    std::cout << (given.json ? all.dump(2, ' ', false, Json::error_handler_t::replace) + "\n" : registrationsText(all));
+    const auto isReadable = [](const Json& file) { return file.at("problem").is_null(); };
+    return std::ranges::all_of(all.at("files"), isReadable) ? 0 : 1;
+}
+
 int validateFile(const CommandLine& given) {
     return validate(given.file, given.json, std::chrono::seconds(given.timeout)) ? 0 : 1;
 }
@@ -209,7 +223,7 @@ private:
             ->type_name("FILE");
         where
             .add_option("--registrations", given_.registrations,
-                        "the user's registrations, in place of $ZILVO_REGISTRATIONS")
+                        "the registrations to use, the user's and the machine's aside")
             ->type_name("FILE")
             ->check([](const std::string& file) { return file.empty() ? "names no file" : std::string(); });
     }
@@ -280,6 +294,12 @@ private:
         takeFile(add("register", "registers a component, so that its classes are found by name", registerFile));
         takeFile(
             add("unregister", "takes a component, even one that is gone, out of the registrations", unregisterFile));
+
+        CLI::App& lists = add("registrations", "lists what is registered, and what became of it", listRegistrations);
+        lists
+            .add_flag("--repair", given_.repair,
+                      "takes out components that are gone, and sets a damaged file aside, instead of listing")
+            ->excludes(takeJson(lists));
 
         CLI::App& validates = add("validate", "checks a component before it is trusted", validateFile);
         takeFile(validates);

@@ -57,9 +57,10 @@ unset ZILVO_FAULT
 
 # What the file says is read without running any of it, even when that would end the program.
 export ZILVO_FAULT=crash-while-loading
-for command in list describe 'describe --json' 'describe Faulty --idl' resources; do
+for command in list describe 'describe --json' 'describe Faulty --idl' resources "register $faulty" registrations \
+    "unregister $faulty"; do
     # shellcheck disable=SC2086
-    "$program" --component "$faulty" $command >"$work/out" 2>&1 || complain "$command failed"
+    "$program" --component "$faulty" --registrations "$work/registrations" $command >"$work/out" 2>&1 || complain "$command failed"
     prints 'Faulty\|TYPELIB' "$command"
     ! grep -q 'is loaded' "$work/out" || complain "$command loaded the component"
 done

@@ -3,6 +3,7 @@
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/RegistrationStore.h"
+#include "zilvo/platform/component/RegistrationText.h"
 
 #include <cstdlib>
 #include <dlfcn.h>
@@ -201,6 +202,22 @@ TEST_F(RegistrationTest, ADamagedStoreIsRefusedWithItsLineAndLeftAlone) {
     }
 }
 
+TEST(Registrations, AreReadInTimeThatGrowsWithTheirText) {
+    const auto start = std::chrono::steady_clock::now();
+    std::string keys;
+    for (int key = 0; key < 50'000; ++key)
+        keys += "key " + std::to_string(key) + " = 1\n";
+    std::string ids;
+    for (std::uint32_t id = 0; id < 10'000; ++id)
+        ids += "[interface]\nid = " + guid(id).text() + "\nname = C\ntype library = " + guid(0).text() +
+               "\nversion = 1.0\n";
+    const std::string longPath =
+        "zilvo registrations, format 1\n[component]\nfile = /" + std::string(1'000'000, 'p') + "\n";
+    EXPECT_EQ(registrationsIn(longPath + ids + "end\n", "").at(0).interfaces.size(), 10'000U);
+    EXPECT_THROW(registrationsIn(longPath + keys + "end\n", ""), DamagedRegistrations);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10)) << "it takes more than linear time";
+}
+
 TEST_F(RegistrationTest, WhereItCannotBeReadOrWritten) {
     const auto adds = [&](const fs::path& where) {
         return outcomeOf([&] { RegistrationStore(where).add(component("/A.Ocx", 1, {1})); });
@@ -259,11 +276,12 @@ TEST_F(RegistrationTest, TheUsualPlace) {
     };
     const std::string oldHome = getenv("HOME") ? getenv("HOME") : "";
     const auto set = [](const char* name, const char* value) { value ? setenv(name, value, 1) : unsetenv(name); };
-    for (const Place& place : {Place{"/r", "/d", "/h", "/r"}, Place{"", "/d", "/h", nullptr, "names no file"},
-                               Place{nullptr, "/d", "/h", "/d/zilvo/registrations"},
-                               Place{nullptr, "d", "/h", "/h/.local/share/zilvo/registrations"},
-                               Place{nullptr, "", "/h", "/h/.local/share/zilvo/registrations"},
-                               Place{nullptr, nullptr, nullptr, nullptr}, Place{nullptr, "d", "", nullptr}}) {
+    for (const Place& place :
+         {Place{"/r", "/d", "/h", "/r"}, Place{"", "/d", "/h", nullptr, "names no file"},
+          Place{nullptr, "/d", "/h", "/d/zilvo/registrations"},
+          Place{nullptr, "d", "/h", "/h/.local/share/zilvo/registrations"},
+          Place{nullptr, "", "/h", "/h/.local/share/zilvo/registrations"}, Place{nullptr, nullptr, nullptr, nullptr},
+          Place{nullptr, "d", "", nullptr}, Place{nullptr, nullptr, "h", nullptr}}) {
         set("ZILVO_REGISTRATIONS", place.named);
         set("XDG_DATA_HOME", place.data);
         set("HOME", place.home);
@@ -291,10 +309,13 @@ TEST_F(RegistrationTest, TheEntryPointsOfBothComponents) {
         const LoadedComponent loaded(each);
         loaded.registerServer();
         EXPECT_EQ(store.find(each), registrationOf(loaded.description(), each));
+        EXPECT_EQ(store.find(each), registrationOf(ComponentFile(each).description(), each)) << "without running it";
     }
+    fs::copy_file(GALLERY_FILE, folder / "Moved.Ocx");
     const LoadedComponent gallery(GALLERY_FILE);
-    gallery.unregisterServer();
-    gallery.unregisterServer();
+    const LoadedComponent moved(folder / "Moved.Ocx");
+    moved.unregisterServer();
+    moved.unregisterServer();
     EXPECT_FALSE(store.find(GALLERY_FILE));
     EXPECT_EQ(store.read().size(), 1U);
 
