@@ -132,7 +132,7 @@ component=$component_given
 # What no system says in our stead.
 (mkdir "$work/gone" && cd "$work/gone" && rmdir "$work/gone" && "$program" --component absent list) \
     >"$work/out" 2>"$work/err" && complain 'a component was found in no folder'
-grep -q '^zilvo: the component file absent cannot be read: No such' "$work/err" || complain 'in no folder'
+grep -q '^zilvo: absent cannot be found: No such' "$work/err" || complain 'in no folder'
 export TMPDIR="$work/absent"
 expect 1 "^zilvo: no temporary folder .* can be made: " validate "$component"
 unset TMPDIR
