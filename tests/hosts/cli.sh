@@ -45,6 +45,19 @@ c:on("OKWasClicked", function()
 end)
 c:key(13)'
 expect 1 'handler.lua:3: .*Nothing$' run "$work/handler.lua"
+script debug.lua 'local names, c = {}, zilvo.create("ssOKCancel")
+for name in pairs(debug) do names[#names + 1] = name end
+table.sort(names)
+local reached = 0
+c:on("OKWasClicked", function()
+    for level = 1, 9 do
+        local frame = debug.getinfo(level)
+        if frame and frame.what == "C" and not pcall(frame.func, c) then reached = reached + 1 end
+    end
+end)
+c:key(13)
+print(require("debug") == debug, reached, table.concat(names, " "))'
+expect 0 '^true	3	gethook getinfo sethook traceback$' run "$work/debug.lua"
 script exit.lua 'zilvo.create("ssOKCancel") os.exit(7, true)'
 expect 7 '' run "$work/exit.lua"
 script drop.lua 'local most = 0

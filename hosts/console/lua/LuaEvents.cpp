@@ -55,7 +55,7 @@ void defineEvents(lua_State* L) {
 
 /// Runs a handler inside one protected call, conversions included: no Lua error may reach the component.
 int HandlerSink::run(lua_State* L) {
-    const auto& call = *static_cast<const HandlerCall*>(lua_touserdata(L, 1));
+    const auto& call = passed<const HandlerCall>(L);
     luaL_checkstack(L, static_cast<int>(call.arguments.size()) + 6, "for an event");
     pushObjectNumbered(L, call.sink.control_);
     if (lua_isnil(L, -1)) return 0;
@@ -89,7 +89,7 @@ void HandlerSink::Event(Long, std::span<Variant> arguments) {
     if (!lua_checkstack(L, 4)) throw Failure(Status::OutOfMemory, name_ + ": the stack of Lua is full");
     HandlerCall call{*this, arguments};
     lua_pushcfunction(L, guarded<HandlerSink::run>);
-    lua_pushlightuserdata(L, &call);
+    pushPointer(L, call);
     if (lua_pcall(L, 1, 0, 0) != LUA_OK) throw keepError(L);
 }
 

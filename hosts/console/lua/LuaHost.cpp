@@ -75,8 +75,21 @@ void defineHostTable(lua_State* L) {
     lua_setglobal(L, "zilvo");
 }
 
+/// Lua's own library without what reaches behind the host: into userdata, metatables, the registry and the stack.
+int openDebug(lua_State* L) {
+    lua_newtable(L);
+    luaopen_debug(L);
+    for (const char* name : {"traceback", "getinfo", "gethook", "sethook"}) {
+        lua_getfield(L, -1, name);
+        lua_setfield(L, -3, name);
+    }
+    lua_pop(L, 1);
+    return 1;
+}
+
 int openEverything(lua_State* L) {
     defineErrors(L);
+    luaL_requiref(L, LUA_DBLIBNAME, openDebug, 1); // the one that is there stays
     luaL_openlibs(L);
     defineValues(L);
     defineControls(L);
@@ -92,7 +105,7 @@ struct Script {
 };
 
 int runScript(lua_State* L) {
-    const auto& script = *static_cast<const Script*>(lua_touserdata(L, 1));
+    const auto& script = passed<const Script>(L);
     const auto count = static_cast<int>(script.arguments.size());
     luaL_checkstack(L, count + 4, "for the script's arguments");
     lua_createtable(L, count, 1);
@@ -164,7 +177,7 @@ int printObserved(lua_State* L) {
 }
 
 int runPlayed(lua_State* L) {
-    const auto& played = *static_cast<const Played*>(lua_touserdata(L, 1));
+    const auto& played = passed<const Played>(L);
     lua_pushcfunction(L, guarded<printObserved>);
     lua_setglobal(L, "print");
     if (luaL_loadbufferx(L, played.script.data(), played.script.size(), played.name.c_str(), "t") != LUA_OK)
@@ -198,7 +211,7 @@ bool load(lua_State* L, Statement& statement) {
 }
 
 int runStatement(lua_State* L) {
-    auto& statement = *static_cast<Statement*>(lua_touserdata(L, 1));
+    auto& statement = passed<Statement>(L);
     if (!load(L, statement)) return lua_error(L);
     const int before = lua_gettop(L) - 1;
     lua_call(L, 0, LUA_MULTRET);

@@ -18,6 +18,13 @@ void pushPointer(lua_State* L, const T& object) {
     lua_pushlightuserdata(L, const_cast<T*>(&object)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
 }
 
+/// The object whose address is a function's first argument. A script that gets hold of the function has no address.
+template <class T>
+T& passed(lua_State* L) {
+    luaL_checktype(L, 1, LUA_TLIGHTUSERDATA);
+    return *static_cast<T*>(lua_touserdata(L, 1));
+}
+
 /// A C++ value in a Lua userdata. The finalizer only empties the box, so that a script's own finalizers may
 /// still meet it. A type T says under which name Lua knows it: T::TypeName.
 template <class T>
