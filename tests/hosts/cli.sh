@@ -58,6 +58,8 @@ end)
 c:key(13)
 print(require("debug") == debug, reached, table.concat(names, " "))'
 expect 0 '^true	3	gethook getinfo sethook traceback$' run "$work/debug.lua"
+script final.lua 'setmetatable({}, { __gc = function() print(pcall(zilvo.create, "ssOKCancel")) end })'
+expect 0 '^false	.*final.lua:1: the script has ended$' run "$work/final.lua"
 script exit.lua 'zilvo.create("ssOKCancel") os.exit(7, true)'
 expect 7 '' run "$work/exit.lua"
 script drop.lua 'local most = 0

@@ -34,7 +34,10 @@ public:
 
 private:
     struct Close {
-        void operator()(lua_State* L) const noexcept { lua_close(L); }
+        void operator()(lua_State* L) const noexcept {
+            sessionOf(L).ends = true;
+            lua_close(L);
+        }
     };
 
     Session session_;

@@ -31,6 +31,8 @@ public:
     /// Whether an error of a handler is on its way through the component back to the call that led to the
     /// event.
     bool errorIsKept = false;
+    /// Only the script's finalizers still run.
+    bool ends = false;
 
     /// Numbers for controls and handlers, none given twice.
     lua_Integer nextNumber() noexcept { return ++lastNumber_; }

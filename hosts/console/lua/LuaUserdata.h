@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/console/lua/LuaSession.h"
+
 #include <lua.h>
 
 #include <lauxlib.h>
@@ -32,10 +34,12 @@ struct Box {
     std::optional<T> value;
 };
 
-/// Pushes a new userdata that holds the value.
+/// Pushes a new userdata that holds the value. Fails with UnexpectedCall while Lua closes, when no new one would be
+/// finalized.
 template <class T>
 T& pushUserdata(lua_State* L, T value, int userValues = 0) {
     static_assert(alignof(Box<T>) <= alignof(lua_Number), "Lua aligns a userdata for its numbers");
+    if (sessionOf(L).ends) throw platform::Failure(platform::Status::UnexpectedCall, "the script has ended");
     auto* box = new (lua_newuserdatauv(L, sizeof(Box<T>), userValues)) Box<T>();
     luaL_setmetatable(L, T::TypeName);
     return box->value.emplace(std::move(value));
