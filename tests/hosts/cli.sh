@@ -65,6 +65,10 @@ expect 7 '' run "$work/exit.lua"
 script drop.lua 'local most = 0
 for _ = 1, 20000 do zilvo.create("DeckButtons") most = math.max(most, zilvo.alive) end print(most)'
 expect 0 '^[0-9][0-9]\{0,1\}$' run "$work/drop.lua"
+script changes.lua 'local c = zilvo.create("ssOKCancel")
+for i = 1, 3000 do c.Cancel = i % 2 == 0 end c.Default = false
+print(#c.changes >= 500 and #c.changes <= 1000, c.changes[1], c.changes[#c.changes])'
+expect 0 '^true	Cancel	Default$' run "$work/changes.lua"
 expect 1 'missing.lua' run "$work/missing.lua"
 expect 1 'irectory' run "$work"
 

@@ -99,6 +99,12 @@ void ControlHost::setAmbient(StringView name, const Variant& value) {
     throwUnlessOk(control_.AmbientPropertyChanged(ambient_.description().find(name)->name, &error), error);
 }
 
+void ControlHost::PropertyChanged(StringView name) {
+    constexpr std::ptrdiff_t Most = 1000;
+    if (std::ssize(changes_) == Most) changes_.erase(changes_.begin(), changes_.begin() + Most / 2);
+    changes_.emplace_back(name);
+}
+
 void ControlHost::HostExtender::put_Width(Single newWidth) {
     host_.resize(newWidth, get_Height());
 }

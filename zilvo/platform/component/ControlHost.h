@@ -49,14 +49,14 @@ public:
     void setAmbient(StringView name, const Variant& value);
     Extender& extenderObject() noexcept { return extender_; }
 
-    /// The names given to PropertyChanged, in order.
+    /// The names given to PropertyChanged, in order; of many the newest, some 500 to 1,000.
     const std::vector<String>& changes() const noexcept { return changes_; }
     std::size_t beeps() const noexcept { return beeps_; }
     /// How often something was to be painted again.
     std::size_t repaints() const noexcept { return repaints_; }
 
 protected:
-    void PropertyChanged(StringView name) override { changes_.emplace_back(name); }
+    void PropertyChanged(StringView name) override;
     void SizeChanged(Single width, Single height) override { extender_.record(width, height); }
     void Beep() override { ++beeps_; }
     bool ShowPopup(Menu& /*root*/) override { return false; }
