@@ -51,8 +51,9 @@ public:
         return ConsumeBool() ? ConsumeIntegral<Number>() : ConsumeIntegralInRange<Number>(-2, 20);
     }
     Single single() {
-        static constexpr Single odd[] = {1e12F, -3e38F, std::numeric_limits<Single>::infinity(),
-                                         std::numeric_limits<Single>::quiet_NaN(), 1e-40F, 0.5F};
+        static constexpr Single odd[] = {
+            1e12F,  -3e38F, std::numeric_limits<Single>::infinity(), std::numeric_limits<Single>::quiet_NaN(),
+            1e-40F, 0.5F};
         constexpr Single most = 1e7F;
         if (ConsumeBool()) return ConsumeIntegralInRange<Integer>(-2, 3000);
         return ConsumeBool() ? oneOf(odd) : ConsumeFloatingPointInRange(-most, most);

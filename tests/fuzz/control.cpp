@@ -1,7 +1,6 @@
 // Whatever a host, a user and hostile event handlers do to a control, in whatever order: calls succeed or fail, and
 // nothing is left behind.
-#include "tests/fuzz/Fuzz.h"
-#include "zilvo/platform/component/ControlHost.h"
+#include "tests/fuzz/Saved.h"
 #include "zilvo/platform/painting/SvgPainter.h"
 
 using namespace zilvo;
@@ -46,7 +45,10 @@ public:
     void play() {
         for (int left = 200; left > 0 && in_.remaining_bytes() > 0; --left)
             fuzz::attempt([&] { step(); });
-        if (host_) paint();
+        if (!host_) return;
+        platform::SvgPainter painter(3000, 3000);
+        host_->paint(painter);
+        fuzz::requireSavedWhole(*host_);
     }
 
 private:
@@ -130,10 +132,6 @@ private:
     void save() {
         platform::MemoryPropertyBag bag;
         host_->save(bag);
-    }
-    void paint() {
-        platform::SvgPainter painter(3000, 3000);
-        host_->paint(painter);
     }
     void setAmbient() {
         static constexpr std::array<StringView, 4> names = {u"UserMode", u"BackColor", u"ForeColor", u"Font"};
