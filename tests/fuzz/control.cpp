@@ -72,14 +72,14 @@ private:
     /// One of the calls that anybody may make at any time.
     void step() {
         static constexpr void (*steps[])(Scene&) = {
-            [](Scene& on) { on.callMember(); },
+            [](Scene& on) { on.use(*on.object_, on.object_.get()); },
             [](Scene& on) { on.useFont(); },
-            [](Scene& on) { on.host_->open(); },
+            [](Scene& on) { on.host_->open(on.in_.ConsumeBool() ? &on.saved_ : nullptr); },
             [](Scene& on) { on.useWidget(); },
             [](Scene& on) { on.use(on.host_->extenderObject()); },
             [](Scene& on) { on.use(on.host_->control().surfaceMembers()); },
-            [](Scene& on) { on.resize(on.in_.point()); },
-            [](Scene& on) { on.save(); },
+            [](Scene& on) { on.host_->resize(on.in_.single(), on.in_.single()); },
+            [](Scene& on) { on.host_->save(on.saved_); },
             [](Scene& on) { on.setAmbient(); },
             [](Scene& on) { on.click(); },
             [](Scene& on) {
@@ -128,46 +128,30 @@ private:
 
     // What the host does
 
-    void resize(Point size) { host_->resize(size.x, size.y); }
-    void save() {
-        platform::MemoryPropertyBag bag;
-        host_->save(bag);
-    }
     void setAmbient() {
         static constexpr std::array<StringView, 4> names = {u"UserMode", u"BackColor", u"ForeColor", u"Font"};
         const auto name = in_.oneOf(names);
         host_->setAmbient(name, in_.value());
     }
-    /// With any arguments, mostly as many as there are.
-    template <class Call>
-    void with(const platform::MemberDescription& member, const Call& call) {
-        std::vector<Variant> arguments(in_.ConsumeIntegralInRange(0, 9) == 9 ? 3 : member.argumentCount);
-        for (Variant& argument : arguments)
-            argument = in_.value();
-        ErrorInfo error;
-        const Status status = call(static_cast<Access>(in_.ConsumeIntegralInRange(0, 3)), arguments, error);
-        fuzz::require(platform::succeeded(status) ||
-                          error.message.find(platform::toUtf8(member.name)) != std::string::npos,
-                      "a message names the member: " + error.message);
-        platform::throwUnlessOk(status, error);
-    }
-    void callMember() {
-        if (object_->description().members.empty()) return;
-        const auto& member = in_.oneOf(object_->description().members);
-        with(member, [&](Access how, std::span<Variant> arguments, ErrorInfo& error) {
-            return object_->Invoke(member.id, how, arguments, &result_, &error);
-        });
-    }
-    void use(Described& target) {
-        const Ref<Object> held = object_; // a widget's member does not hold its control
+    /// Uses any member with any arguments, mostly as many as it has. An object is called by the member's id.
+    void use(Described& target, Object* object = nullptr) {
+        const Ref<Object> held = object ? Ref<Object>() : object_; // a widget's member does not hold its control
         const auto* description = &target.description();
         while (description->base && in_.ConsumeBool())
             description = description->base;
         if (description->members.empty()) return;
         const auto& member = in_.oneOf(description->members);
-        with(member, [&](Access how, std::span<Variant> arguments, ErrorInfo& error) {
-            return platform::invoke(target, member.name, how, arguments, &result_, &error);
-        });
+        const auto how = static_cast<Access>(in_.ConsumeIntegralInRange(0, 3));
+        std::vector<Variant> arguments(in_.ConsumeIntegralInRange(0, 9) == 9 ? 3 : member.argumentCount);
+        for (Variant& argument : arguments)
+            argument = in_.value();
+        ErrorInfo error;
+        const Status status = object ? object->Invoke(member.id, how, arguments, &result_, &error)
+                                     : platform::invoke(target, member.name, how, arguments, &result_, &error);
+        fuzz::require(platform::succeeded(status) ||
+                          error.message.find(platform::toUtf8(member.name)) != error.message.npos,
+                      "a message names the member: " + error.message);
+        platform::throwUnlessOk(status, error);
     }
     void useWidget() {
         Widget* widget = anyWidget();
@@ -194,6 +178,7 @@ private:
     std::vector<platform::Connection> connections_;
     std::unique_ptr<Host> host_;
     Variant result_;
+    platform::MemoryPropertyBag saved_;
 };
 
 } // namespace

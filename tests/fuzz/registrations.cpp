@@ -5,7 +5,6 @@
 #include "zilvo/platform/component/RegistrationText.h"
 
 #include <fstream>
-#include <unistd.h>
 
 using namespace zilvo;
 using platform::Registration;
@@ -13,27 +12,12 @@ using platform::RegistrationStore;
 
 namespace {
 
-/// A folder of this process's own that goes away with it.
-class Folder {
-public:
-    Folder() { std::filesystem::create_directories(path_); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    ~Folder() { std::filesystem::remove_all(path_); }
-
-    std::filesystem::path operator/(const char* file) const { return path_ / file; }
-
-private:
-    std::filesystem::path path_ = std::filesystem::temp_directory_path() / ("zilvo-fuzz-" + std::to_string(getpid()));
-};
-
 std::vector<Registration> readBack(std::span<const Registration> registrations) {
     return platform::registrationsIn(textOf(registrations), "a store as it is written");
 }
 
 void change(const std::string& text, const Registration& newcomer) {
-    static const Folder folder;
-    const auto file = folder / "registrations";
+    const std::filesystem::path file = "registrations.fuzzed"; // in the working folder
     std::ofstream(file, std::ios::binary) << text;
     RegistrationStore store(file);
     store.add(newcomer);

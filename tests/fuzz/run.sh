@@ -4,23 +4,29 @@
 # the folder KEPT, which a later run begins with too. Without it they are forgotten, and as the seed is fixed, every run
 # tries the same as far as it gets.
 set -euo pipefail
+fuzzer=$(realpath "$1")
+corpus=$(realpath "$(dirname "$0")")/corpus
 target=$(basename "$1") target=${target#fuzz-}
-results=$(dirname "$1")/../fuzz
-mkdir -p "$results"
-kept=${3:-$(mktemp -d)}
-[ $# -eq 3 ] || trap 'rm -rf "$kept"' EXIT
-mkdir -p "$kept"
+if [ $# -eq 3 ]; then
+    mkdir -p "$3"
+    kept=$(realpath "$3")
+else
+    kept=$(mktemp -d)
+    trap 'rm -rf "$kept"' EXIT
+fi
+mkdir -p "$(dirname "$fuzzer")/../fuzz"
+cd "$(dirname "$fuzzer")/../fuzz"
 # Whole files, and sequences of calls, of which longer ones take long.
 case $target in component_file | registrations) longest=4096 ;; *) longest=400 ;; esac
 
-log=$results/$target.log
+log=$target.log
 status=0
-"$1" -seed=1 -max_total_time="$2" -max_len="$longest" -len_control=0 -entropic=0 -timeout=10 -close_fd_mask=1 \
-    -print_final_stats=1 -artifact_prefix="$results/$target-" "$kept" "$(dirname "$0")/corpus/$target" 2>"$log" || status=1
+"$fuzzer" -seed=1 -max_total_time="$2" -max_len="$longest" -len_control=0 -entropic=0 -timeout=10 -close_fd_mask=1 \
+    -print_final_stats=1 -artifact_prefix="$PWD/$target-" "$kept" "$corpus/$target" 2>"$log" || status=1
 found="nothing found"
 if [ "$status" -ne 0 ]; then
     why=$(grep -E '^SUMMARY: |^It does not hold ' "$log" | head -1 || tail -1 "$log")
-    found="$why: $1 $(grep -oE "$results/$target-[a-z]+-[0-9a-f]+" "$log" | tail -1 || true)"
+    found="$why: $fuzzer $(grep -oE "$PWD/$target-[a-z]+-[0-9a-f]+" "$log" | tail -1 || true)"
 fi
 executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
 places=$(grep -oE ' cov: [0-9]+' "$log" | tail -1 | grep -oE '[0-9]+' || true)
