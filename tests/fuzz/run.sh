@@ -16,12 +16,14 @@ else
 fi
 mkdir -p "$(dirname "$fuzzer")/../fuzz"
 cd "$(dirname "$fuzzer")/../fuzz"
-# Whole files, and sequences of calls, of which longer ones take long.
-case $target in component_file | registrations) longest=4096 ;; *) longest=400 ;; esac
+case $target in
+component_file | registrations) options=(-max_len=4096) ;; # whole files
+*) options=(-max_len=400 -entropic=0) ;; # sequences of calls, of which longer ones take long
+esac
 
 log=$target.log
 status=0
-"$fuzzer" -seed=1 -max_total_time="$2" -max_len="$longest" -len_control=0 -entropic=0 -timeout=10 -close_fd_mask=1 \
+"$fuzzer" -seed=1 -max_total_time="$2" "${options[@]}" -len_control=0 -timeout=10 -close_fd_mask=1 \
     -print_final_stats=1 -artifact_prefix="$PWD/$target-" "$kept" "$corpus/$target" 2>"$log" || status=1
 found="nothing found"
 if [ "$status" -ne 0 ]; then
