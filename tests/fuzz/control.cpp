@@ -142,7 +142,8 @@ private:
         if (description->members.empty()) return;
         const auto& member = in_.oneOf(description->members);
         const auto how = static_cast<Access>(in_.ConsumeIntegralInRange(0, 3));
-        std::vector<Variant> arguments(in_.ConsumeIntegralInRange(0, 9) == 9 ? 3 : member.argumentCount);
+        const std::size_t fitting = how == Access::Get ? 0 : member.argumentCount;
+        std::vector<Variant> arguments(in_.ConsumeIntegralInRange(0, 9) == 9 ? 3 : fitting);
         for (Variant& argument : arguments)
             argument = in_.value();
         ErrorInfo error;
