@@ -32,6 +32,22 @@ private:
     const std::function<void()>& misbehave_;
 };
 
+/// A store of settings that misbehaves, and gives any values.
+class Store final : public platform::PropertyBag {
+public:
+    Store(fuzz::Input& in, const std::function<void()>& misbehave) : in_(in), misbehave_(misbehave) {}
+
+private:
+    std::optional<Variant> read(StringView /*name*/) const override {
+        misbehave_();
+        return in_.ConsumeBool() ? std::optional(in_.value()) : std::nullopt;
+    }
+    void write(StringView /*name*/, const Variant& /*value*/, bool /*equalsDefault*/) override { misbehave_(); }
+
+    fuzz::Input& in_;
+    const std::function<void()>& misbehave_;
+};
+
 class Scene final : private platform::EventSink {
 public:
     explicit Scene(fuzz::Input& in) : in_(in), object_(in.object()) {
@@ -74,12 +90,12 @@ private:
         static constexpr void (*steps[])(Scene&) = {
             [](Scene& on) { on.use(*on.object_, on.object_.get()); },
             [](Scene& on) { on.useFont(); },
-            [](Scene& on) { on.host_->open(on.in_.ConsumeBool() ? &on.saved_ : nullptr); },
+            [](Scene& on) { on.host_->open(on.in_.ConsumeBool() ? &on.store_ : nullptr); },
             [](Scene& on) { on.useWidget(); },
             [](Scene& on) { on.use(on.host_->extenderObject()); },
             [](Scene& on) { on.use(on.host_->control().surfaceMembers()); },
             [](Scene& on) { on.host_->resize(on.in_.single(), on.in_.single()); },
-            [](Scene& on) { on.host_->save(on.saved_); },
+            [](Scene& on) { on.host_->save(on.store_); },
             [](Scene& on) { on.setAmbient(); },
             [](Scene& on) { on.click(); },
             [](Scene& on) {
@@ -179,7 +195,7 @@ private:
     std::vector<platform::Connection> connections_;
     std::unique_ptr<Host> host_;
     Variant result_;
-    platform::MemoryPropertyBag saved_;
+    Store store_{in_, misbehave_};
 };
 
 } // namespace
