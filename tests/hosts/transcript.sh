@@ -89,6 +89,8 @@ play 1 absent.lua
 prints 'absent.lua cannot be read' absent.lua
 play 1 .
 prints 'is a directory' directory
+play 1 "$(printf '%0300d' 0).lua"
+prints '.lua cannot be read: File name too long' 'a name that is too long'
 name=$(printf '%0250d' 0).lua # as long as a name can be
 grep -v '^-->' story.lua >"$name"
 cp "$name" before.lua

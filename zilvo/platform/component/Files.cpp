@@ -1,6 +1,5 @@
 #include "zilvo/platform/component/Files.h"
 
-#include <array>
 #include <cerrno>
 #include <charconv>
 #include <cstdio>

@@ -52,10 +52,10 @@ struct Ids {
 
 template <class Part>
 std::vector<Part> partsOf(const std::set<Guid>& ids, Guid Part::*id, std::vector<Part>& parts) {
-    const auto others =
-        std::ranges::stable_partition(parts, [&](const Part& part) { return !ids.contains(std::invoke(id, part)); });
-    std::vector<Part> own(others.begin(), others.end());
-    parts.erase(others.begin(), others.end());
+    const auto isAnothers = [&](const Part& part) { return !ids.contains(std::invoke(id, part)); };
+    const auto first = std::stable_partition(parts.begin(), parts.end(), isAnothers);
+    std::vector<Part> own(first, parts.end());
+    parts.erase(first, parts.end());
     return own;
 }
 
