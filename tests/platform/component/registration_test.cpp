@@ -237,8 +237,8 @@ TEST_F(RegistrationTest, WhereItCannotBeReadOrWritten) {
     EXPECT_EQ(adds(file / "below").status, Status::RegistrationsUnreadable);
     for (const fs::path& readOnly : {file, folder}) {
         const auto usual = fs::status(readOnly).permissions();
-        fs::permissions(readOnly, fs::perms::owner_read | fs::perms::owner_exec);
         fs::remove(lock);
+        fs::permissions(readOnly, fs::perms::owner_read | fs::perms::owner_exec);
         const Outcome outcome = adds(file);
         EXPECT_EQ(outcome.status, Status::RegistrationsUnwritable);
         EXPECT_TRUE(outcome.says(readOnly.string() + " cannot be written: it is read-only")) << outcome.message;
