@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <sstream>
 #include <unistd.h>
 
 namespace zilvo::platform {
@@ -13,8 +13,9 @@ namespace zilvo::platform {
 namespace fs = std::filesystem;
 
 inline std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+    std::ostringstream out;
+    out << std::ifstream(file, std::ios::binary).rdbuf();
+    return out.str();
 }
 
 inline void write(const fs::path& file, const std::string& text) {
