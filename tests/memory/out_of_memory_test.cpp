@@ -1,6 +1,6 @@
+#include "tests/support/Deeds.h"
 #include "zilvo/platform/component/ComponentRuntime.h"
 #include "zilvo/platform/component/ControlHost.h"
-#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -42,122 +42,79 @@ void operator delete(void* memory, std::size_t) noexcept {
     operator delete(memory);
 }
 
-namespace zilvo::platform {
+namespace zilvo {
 namespace {
 
-/// Takes an object through all that a host does with it, every call across the module's edge. A call that runs out of
+using namespace platform;
+
+/// Takes an object through all that can be done to it, every call across the module's edge. A call that runs out of
 /// memory is made again, and must then give what it gives otherwise.
 class Life {
 public:
-    void of(const LoadedComponent& component, const ClassEntry& entry) {
-        live(component, entry); // what is made once for all instances is there
+    Life(const LoadedComponent& component, const ClassEntry& entry) : component_(component), entry_(entry) {
+        live(); // what is made once for all instances is there
         const std::size_t before = heap.blocks;
-        for (bool isOver = false; !isOver; ++failures) {
-            heap.untilFailure = failures + 1;
-            live(component, entry);
-            isOver = std::exchange(heap.untilFailure, 0) > 0;
-            ASSERT_EQ(heap.blocks, before) << "leaked when allocation " << failures + 1 << " failed";
-            ASSERT_EQ(component.liveObjects(), 0U);
+        bool isOver = false;
+        for (std::size_t n = 1; !isOver; ++n) {
+            heap.untilFailure = n;
+            live();
+            isOver = std::exchange(heap.untilFailure, 0) > 0 || testing::Test::HasFailure();
+            EXPECT_EQ(heap.blocks, before) << "leaked when allocation " << n << " failed";
+            EXPECT_EQ(component.liveObjects(), 0U);
         }
     }
-    std::size_t failures = 0;
 
 private:
     struct Sink final : EventSink {
         void Event(Long, std::span<Variant>) override {}
     };
-    struct Site final : ControlSite {
-        struct Place final : Extender {};
-        Ambient& ambient() override { return ambientProperties; }
-        Extender& extender() override { return place; }
-        void PropertyChanged(StringView) override {}
-        void SizeChanged(Single, Single) override {}
-        void Beep() override {}
-        StandardAmbient ambientProperties;
-        Place place;
-    };
 
     template <class Call>
-    Status edge(const Call& call) {
-        const bool mayFail = heap.untilFailure > 0;
+    static Status once(const Call& call) {
+        Status status = Status::Ok;
         heap.armed = true;
-        const Status status = call(nullptr);
+        const Status own = atTheEdge(
+            nullptr, [] { return std::string(); }, [&] { status = call(); });
         heap.armed = false;
-        const bool failed = mayFail && heap.untilFailure == 0;
-        if (status != Status::OutOfMemory) return status;
-        EXPECT_TRUE(failed);
-        ErrorInfo error;
-        return call(&error);
+        return own == Status::Ok ? status : own;
+    }
+    template <class Call>
+    static Status edge(const Call& call) {
+        const Status status = once(call);
+        return status == Status::OutOfMemory ? once(call) : status;
     }
 
-    void live(const LoadedComponent& component, const ClassEntry& entry) {
-        Ref<ClassFactory> factory = component.classFactory(entry.identity.classId);
+    void live() {
+        const Ref<ClassFactory> factory = component_.classFactory(entry_.identity.classId);
         Ref<Object> object;
-        ASSERT_EQ(edge([&](ErrorInfo* error) { return factory->CreateInstance(object, error); }), Status::Ok);
+        ASSERT_EQ(edge([&] { return factory->CreateInstance(object); }), Status::Ok);
         Sink sink;
         std::vector<Connection> connections(object->description().events.size());
         for (std::size_t i = 0; i < connections.size(); ++i)
-            ASSERT_EQ(edge([&](ErrorInfo* error) {
-                          return object->Connect(object->description().events[i].number, sink, connections[i], error);
-                      }),
-                      Status::Ok);
+            ASSERT_EQ(
+                edge([&] { return object->Connect(object->description().events[i].number, sink, connections[i]); }),
+                Status::Ok);
+        std::optional<ControlHost> host;
         if (HostedControl* control = object->hostedControl()) {
-            Site site;
-            host(*control, site);
-            members(*object);
-            use(*control);
-            control->Close();
-        } else
-            members(*object);
-    }
-
-    void host(HostedControl& control, Site& site) {
-        ASSERT_EQ(edge([&](ErrorInfo* error) { return control.SetSite(site, error); }), Status::Ok);
-        // Loading is not repeated: it has taken place.
-        const MemoryPropertyBag settings;
-        heap.armed = true;
-        const Status loaded = control.Load(settings, nullptr);
-        heap.armed = false;
-        ASSERT_TRUE(loaded == Status::Ok || loaded == Status::OutOfMemory);
-        ASSERT_EQ(edge([&](ErrorInfo* error) { return control.SetSize(3000, 1500, error); }), Status::Ok);
-        ASSERT_EQ(edge([&](ErrorInfo* error) { return control.AmbientPropertyChanged(u"UserMode", error); }),
-                  Status::Ok);
-    }
-
-    void members(Object& object) {
-        for (const MemberDescription& member : object.description().members) {
-            std::vector<Variant> arguments(member.argumentCount, Variant(Integer{1}));
-            if (member.accessor(Access::Get)) {
-                Variant value;
-                ASSERT_EQ(
-                    edge([&](ErrorInfo* error) { return object.Invoke(member.id, Access::Get, {}, &value, error); }),
-                    Status::Ok);
-                arguments.assign(1, value);
-            }
-            for (const Access how : {Access::Put, Access::PutReference, Access::Method})
-                if (member.accessor(how))
-                    edge([&](ErrorInfo* error) { return object.Invoke(member.name, how, arguments, nullptr, error); });
+            host.emplace(object);
+            const Status loaded = once([&] { return control->Load(MemoryPropertyBag()); });
+            ASSERT_TRUE(loaded == Status::Ok || loaded == Status::OutOfMemory); // either way it has taken place
+            ASSERT_EQ(edge([&] { return control->SetSize(3000, 1500); }), Status::Ok);
         }
-        edge([&](ErrorInfo* error) { return object.Invoke(u"Nothing", Access::Get, {}, nullptr, error); });
+        if (deeds_.empty()) deeds_ = deedsOf(*object);
+        statuses_.resize(deeds_.size(), Status::OutOfMemory);
+        for (std::size_t i = 0; i < deeds_.size(); ++i) {
+            deeds_[i].prepare(*object);
+            const Status status = edge([&] { return deeds_[i].run(*object); });
+            if (statuses_[i] == Status::OutOfMemory) statuses_[i] = status;
+            ASSERT_EQ(status, statuses_[i]) << "deed " << i;
+        }
     }
 
-    void use(HostedControl& control) {
-        const auto input = [&](const InputEvent& event) {
-            edge([&](ErrorInfo* error) { return control.Input(event, nullptr, error); });
-            heap.armed = true;
-            control.focus();
-            heap.armed = false;
-        };
-        for (Widget& widget : control.surface())
-            input(input::Act{widget});
-        input(input::PointerDown{{700, 300}, input::RightButton});
-        for (const StringView key : {u"Down", u"Enter", u"Tab", u"Space", u"Alt+S", u"5"})
-            input(*parseKey(key));
-        SvgPainter painter(3000, 1500);
-        ASSERT_EQ(edge([&](ErrorInfo* error) { return control.Paint(painter, error); }), Status::Ok);
-        MemoryPropertyBag saved;
-        ASSERT_EQ(edge([&](ErrorInfo* error) { return control.Save(saved, error); }), Status::Ok);
-    }
+    const LoadedComponent& component_;
+    const ClassEntry& entry_;
+    std::vector<Deed> deeds_;
+    std::vector<Status> statuses_; ///< what the deeds give when there is memory
 };
 
 } // namespace
@@ -166,9 +123,8 @@ TEST(OutOfMemory, FailsTheCallAndNothingElse) {
     const LoadedComponent component(COMPONENT_FILE);
     for (const ClassEntry& entry : component.description().classes) {
         SCOPED_TRACE(toUtf8(entry.identity.name));
-        Life life;
-        life.of(component, entry);
+        const Life life(component, entry);
     }
 }
 
-} // namespace zilvo::platform
+} // namespace zilvo

@@ -80,14 +80,6 @@ TEST(SpinCounter, AFailingHostOrStoreEndsTheStepsThere) {
     EXPECT_EQ(store.written, (std::vector<String>{u"Height", u"CounterValue"}));
 }
 
-TEST(DeckButtons, AHandlerMayDestroyItInTheMiddleOfTheChain) {
-    std::optional<ControlHost> host(std::in_place, create<DeckButtons>());
-    host->open();
-    host->on(u"NumberOfDecksChanged", [&](std::span<Variant>) { host.reset(); });
-    EXPECT_TRUE(host->click(u"menuCasinoDefaults", 10));
-    EXPECT_EQ(libraryModule().liveObjects(), 0U);
-}
-
 TEST(CardShufflingOptions, AHandlerMayCloseTheHostWhileLoading) {
     MemoryPropertyBag settings;
     settings.set(u"CardShuffleMethod", Integer{2});

@@ -1,7 +1,8 @@
+#include "tests/support/Deeds.h"
 #include "tests/support/gallery/GalleryLibrary.h"
+#include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/ControlHost.h"
-#include "zilvo/platform/painting/SvgPainter.h"
 
 #include <gtest/gtest.h>
 
@@ -35,99 +36,94 @@ struct Site final : ControlSite {
     Place place;
 };
 
-/// All that a host and its user do to a control, every call a chance for the site.
-std::vector<std::function<Status(HostedControl&)>> deedsOf(HostedControl& described) {
-    std::vector<std::function<Status(HostedControl&)>> deeds;
-    for (const StringView key : {u"Tab", u"Space", u"Enter", u"Escape", u"Down", u"9", u"1", u"Alt+P", u"Alt+1"})
-        deeds.emplace_back([=](HostedControl& control) { return control.Input(*parseKey(key), nullptr); });
-    for (const Integer button : {input::LeftButton, input::RightButton})
-        deeds.emplace_back([=](HostedControl& control) {
-            return control.Input(input::PointerDown{{1400, 700}, button}, nullptr);
-        });
-    for (const StringView member : {u"BackColor", u"ForeColor", u"Width", u"Height"})
-        deeds.emplace_back([=](HostedControl& control) {
-            Variant value{Integer{1234}};
-            return invoke(control.surfaceMembers(), member, Access::Put, {&value, 1}, nullptr);
-        });
-    int number = 0;
-    for (const Widget& each : described.surface()) {
-        const auto widgetOf = [at = number++](HostedControl& control) -> Widget& {
-            return *std::next(control.surface().begin(), at);
-        };
-        deeds.emplace_back(
-            [=](HostedControl& control) { return control.Input(input::Act{widgetOf(control)}, nullptr); });
-        for (const auto& [member, set] : {std::pair<StringView, Integer>{u"Width", 1500}, {u"Value", 1}})
-            if (each.description().find(member))
-                deeds.emplace_back([=, name = member, number = set](HostedControl& control) {
-                    Variant value{number};
-                    return invoke(widgetOf(control), name, Access::Put, {&value, 1}, nullptr);
-                });
+/// An instance of a class with a site and a handler of every event, which calls the site too.
+struct Guest : EventSink {
+    explicit Guest(const ClassEntry& entry, ComponentModule& module) : object(entry.create(module)) {
+        for (const EventDescription& event : object->description().events)
+            connections.push_back(connect(*object, event.name, *this));
     }
-    deeds.emplace_back([](HostedControl& control) { return control.SetSize(2000, 1000); });
-    deeds.emplace_back([](HostedControl& control) { return control.AmbientPropertyChanged(u"UserMode"); });
-    deeds.emplace_back([](HostedControl& control) {
-        SvgPainter painter(2000, 2000);
-        return control.Paint(painter);
-    });
-    deeds.emplace_back([](HostedControl& control) { return control.focus(), Status::Ok; });
-    return deeds;
+    void Event(Long /*number*/, std::span<Variant> /*arguments*/) override { site.told(); }
+    void open() {
+        HostedControl* control = object->hostedControl();
+        if (!control) return;
+        ASSERT_EQ(control->SetSite(site), Status::Ok);
+        ASSERT_EQ(control->InitNew(), Status::Ok);
+        ASSERT_EQ(control->SetSize(2400, 2400), Status::Ok);
+    }
+    /// Lets go of it, and lets nothing be heard of it.
+    void end() {
+        connections.clear();
+        if (object && object->hostedControl()) object->hostedControl()->Close();
+        object = nullptr;
+    }
+
+    Site site;
+    Ref<Object> object;
+    std::vector<Connection> connections;
+};
+
+/// Each class of the library and of the gallery, with all that can be done to one of its objects.
+void forEachClass(const std::function<void(const std::function<Guest()>& make, const std::vector<Deed>& deeds)>& body) {
+    for (ComponentModule* module : {&libraryModule(), &galleryModule()})
+        for (const ClassEntry& entry : module->description().classes) {
+            SCOPED_TRACE(toUtf8(entry.identity.name));
+            Guest any(entry, *module);
+            const auto deeds = deedsOf(*any.object);
+            any.end();
+            body([&] { return Guest(entry, *module); }, deeds);
+            EXPECT_TRUE(module->canUnload());
+        }
 }
 
-constexpr StringView galleryClasses[] = {u"WidgetGallery", u"Small", u"Outer"};
-
 TEST(HostileSite, MayFailInAnyCall) {
-    for (const StringView className : galleryClasses) {
-        Site site;
-        site.mayFail = true;
-        const auto object = make(className);
-        HostedControl& control = *object->hostedControl();
-        const auto deeds = deedsOf(control);
+    bool failed = false;
+    forEachClass([&](const auto& make, const auto& deeds) {
         const auto fail = [] { throw Failure(Status::Overflow, "planted"); };
+        Guest refused = make();
+        refused.site.happens = fail;
+        refused.site.mayFail = true;
+        HostedControl* control = refused.object->hostedControl();
+        const bool kept = !control || control->SetSite(refused.site) != Status::Overflow;
+        EXPECT_TRUE(kept || control->InitNew() == Status::UnexpectedCall) << "a site that failed is not kept";
+        refused.end();
 
-        site.happens = fail;
-        if (control.SetSite(site) != Status::Ok) {
-            EXPECT_EQ(control.InitNew(), Status::UnexpectedCall) << "the site was not kept";
-            site.happens = nullptr;
-            EXPECT_EQ(control.SetSite(site), Status::Ok);
+        Guest guest = make();
+        guest.open();
+        guest.site.mayFail = true;
+        for (const Deed& deed : deeds) {
+            deed.prepare(*guest.object);
+            guest.site.happens = fail;
+            failed = deed.run(*guest.object) == Status::Overflow || failed;
+            guest.site.happens = nullptr;
+            const Status after = deed.run(*guest.object);
+            EXPECT_TRUE(after != Status::Overflow && after != Status::Failed) << nameOf(after);
         }
-        site.happens = nullptr;
-        ASSERT_EQ(control.InitNew(), Status::Ok);
-        ASSERT_EQ(control.SetSize(2400, 2400), Status::Ok);
-        bool failed = false;
-        for (const auto& deed : deeds) {
-            site.happens = fail;
-            const Status status = deed(control);
-            failed = failed || status == Status::Overflow;
-            site.happens = nullptr;
-            EXPECT_TRUE(status == Status::Ok || status == Status::Overflow) << nameOf(status);
-            EXPECT_EQ(deed(control), Status::Ok);
-        }
-        EXPECT_TRUE(failed);
-        control.Close();
-    }
+        guest.end();
+    });
+    EXPECT_TRUE(failed);
 }
 
 TEST(HostileSite, MayLetGoOfTheControlInAnyCall) {
-    for (const StringView className : galleryClasses) {
-        const auto deeds = deedsOf(*make(className)->hostedControl());
-        for (std::size_t i = 0; i < deeds.size(); ++i)
-            for (int patience = 0; patience < 3; ++patience) { // in the first call of the site, or in a later one
-                Site site;
-                auto object = make(className);
-                HostedControl& control = *object->hostedControl();
-                ASSERT_EQ(control.SetSite(site), Status::Ok);
-                ASSERT_EQ(control.InitNew(), Status::Ok);
-                ASSERT_EQ(control.SetSize(2400, 2400), Status::Ok);
-                int left = patience;
-                site.happens = [&] {
-                    if (left-- == 0) object = nullptr;
-                };
-                deeds[i](control);
-                if (object) control.Close();
-                object = nullptr;
-                EXPECT_EQ(galleryModule().liveObjects(), 0U);
-            }
-    }
+    int heardLater = 0;
+    forEachClass([&](const auto& make, const auto& deeds) {
+        for (const Deed& deed : deeds)
+            for (const bool ends : {false, true})
+                for (int patience = 0; patience < 3; ++patience) { // in the first call of the host, or in a later one
+                    Guest guest = make();
+                    guest.open();
+                    deed.prepare(*guest.object);
+                    int told = 0;
+                    guest.site.happens = [&] {
+                        if (told++ == patience) ends ? guest.end() : void(guest.object = nullptr);
+                    };
+                    Object& object = *guest.object;
+                    deed.run(object);
+                    EXPECT_TRUE(!ends || told <= patience + 1) << "nothing is told after it";
+                    heardLater += !ends && told > patience + 1;
+                    guest.end();
+                }
+    });
+    EXPECT_GT(heardLater, 0) << "what is begun is done to its end";
 }
 
 TEST(HostileSite, MayLetGoOfWhoeverSharesAFontThatChanges) {

@@ -288,6 +288,7 @@ bool InputRouter::arrow(input::Key key) {
     if (!focused->isInGroupWith(*focused)) return false;
     auto group = tabOrderOf(root_);
     std::erase_if(group, [&](const Widget* widget) { return !focused->isInGroupWith(*widget); });
+    if (group.empty()) return false; // the host has hidden the control when it was asked
     if (key == Key::Up || key == Key::Left) std::reverse(group.begin(), group.end());
     auto next = std::find(group.begin(), group.end(), focused);
     next = next == group.end() || next + 1 == group.end() ? group.begin() : next + 1;
