@@ -111,6 +111,15 @@ printf '%s\n' '1 + 1' 'error("oh")' 'for i = 5, 6 do' 'print(i)' 'end' 'x = zilv
 [ "$(tr '\n' ' ' <"$work/out")" = '2 5 6 true	true ' ] || complain "the conversation printed something else"
 [ "$(grep -c . "$work/err")" -eq 3 ] || complain "the conversation had other errors"
 
+# What is long is not compiled anew with each of its lines, and runs where it ends.
+{
+    printf '%s\n' 'function many() --[==[ if' 'do ]] ( ]==] return #{'
+    seq 20000 | sed 's/.*/    function() if many then return "}" .. "\\"" end end, -- }/'
+    printf '%s\n' '}' 'end' 'many()' 'for i = = 1 do' 'if'
+} | timeout 60 "$program" --component "$component" repl >"$work/out" 2>"$work/err" || complain 'a long conversation failed'
+[ "$(cat "$work/out")" = 20000 ] || complain 'a long conversation printed something else'
+[ "$(grep -c . "$work/err")" -eq 2 ] || complain 'a long conversation had other errors'
+
 # Misuse: help and a failing status.
 expect 1 'Usage' inspect
 expect 1 'Usage' run

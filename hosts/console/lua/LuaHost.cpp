@@ -7,6 +7,7 @@
 #include "hosts/console/lua/LuaUserdata.h"
 #include "hosts/console/lua/LuaValues.h"
 #include "hosts/console/lua/LuaWidget.h"
+#include "hosts/console/lua/Nesting.h"
 
 #include <lauxlib.h>
 #include <lualib.h>
@@ -190,6 +191,7 @@ int runPlayed(lua_State* L) {
 /// A statement of a conversation: what has been typed of it so far.
 struct Statement {
     std::string text;
+    Nesting nesting;
     bool isIncomplete = false;
 };
 
@@ -291,23 +293,30 @@ bool LuaHost::play(Transcript& transcript, const std::string& file, const std::f
 }
 
 void LuaHost::converse(std::istream& in, bool prompts) {
+    constexpr std::size_t Long = 20000; // bytes of a statement
     lua_State* L = lua_.get();
     Statement statement;
     std::string line;
-    const auto report = [L] { std::cerr << errorOf(L) << '\n'; };
-    for (;;) {
+    for (bool more = true; more;) {
         if (prompts) std::cout << (statement.isIncomplete ? ">> " : "> ") << std::flush;
-        if (!std::getline(in, line)) break;
-        statement.text += (statement.isIncomplete ? "\n" : "") + line;
+        more = static_cast<bool>(std::getline(in, line));
+        if (prompts && !more) std::cout << '\n';
+        if (more) {
+            statement.text += (statement.isIncomplete ? "\n" : "") + line;
+            statement.nesting.read(line);
+            // Another try compiles all of it again: a long one is tried only when it can be whole.
+            statement.isIncomplete = statement.text.size() > Long && statement.nesting.isOpen();
+            if (statement.isIncomplete) continue;
+        } else if (!statement.isIncomplete) {
+            break;
+        }
         statement.isIncomplete = false;
         const bool succeeded = callProtected(L, runStatement, statement);
         std::cout.flush();
-        if (statement.isIncomplete) continue;
-        if (!succeeded) report();
+        if (statement.isIncomplete && more) continue;
+        if (!succeeded) std::cerr << errorOf(L) << '\n';
         statement = {};
     }
-    if (prompts) std::cout << '\n';
-    if (statement.isIncomplete) report();
 }
 
 } // namespace zilvo::console
