@@ -2,6 +2,7 @@
 
 #include "zilvo/platform/component/Files.h"
 
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -138,7 +139,8 @@ TEST_F(FilesTest, AWriterKilledAtAnyMomentLeavesTheOldContentOrTheNewOne) {
     failingCall = "none"; // the disk is not asked, which a kill does not concern
     const std::string texts[] = {std::string(15000, 'a'), std::string(9000, 'b')};
     writeFile(file, texts[0]);
-    for (int round = 0; round < Rounds; ++round) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20); // of a machine that is busy
+    for (int round = 0; round < Rounds && std::chrono::steady_clock::now() < end; ++round) {
         const pid_t writer = inChild([&] {
             for (unsigned i = 0;; ++i)
                 writeFile(file, texts[i % 2]);
