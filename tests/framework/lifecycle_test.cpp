@@ -143,6 +143,10 @@ TEST(Lifecycle, AFailingStepKeepsWhatWasDoneAndTheOrderGoesOn) {
     MemoryPropertyBag saved;
     EXPECT_THROW(host.save(saved), Failure);
     EXPECT_EQ(saved.settings().size(), 1U);
+    control->failIn = "Resize";
+    EXPECT_THROW(host.resize(5, 5), Failure);
+    host.setAmbient(u"BackColor", Colour{1});
+    EXPECT_TRUE(control->log.ends_with("Resize AmbientChanged(BackColor) ")) << "it is live all the same";
 }
 
 TEST(Lifecycle, AnInstanceWhoseInitializeFailsLeavesNothingBehind) {

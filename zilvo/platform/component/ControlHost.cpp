@@ -38,24 +38,17 @@ ControlHost::~ControlHost() {
     control_.Close();
 }
 
-template <class Call>
-bool ControlHost::survives(const Call& call) {
+void ControlHost::open(const PropertyBag* settings, std::optional<Single> width, std::optional<Single> height) {
+    ErrorInfo error;
     bool gone = false;
     bool* const outer = std::exchange(gone_, &gone);
-    ErrorInfo error;
-    const Status status = call(error);
+    const Status status = settings ? control_.Load(*settings, &error) : control_.InitNew(&error);
     if (!gone)
         gone_ = outer;
     else if (outer)
         *outer = true;
     throwUnlessOk(status, error);
-    return !gone;
-}
-
-void ControlHost::open(const PropertyBag* settings, std::optional<Single> width, std::optional<Single> height) {
-    const bool open = survives(
-        [&](ErrorInfo& error) { return settings ? control_.Load(*settings, &error) : control_.InitNew(&error); });
-    if (!open) return;
+    if (gone) return; // an event while loading, and its handler destroyed the host
     const Rectangle area = control_.surface().area();
     resize(width.value_or(area.width), height.value_or(area.height));
 }
@@ -72,7 +65,8 @@ void ControlHost::save(PropertyBag& settings) {
 }
 
 void ControlHost::resize(Single width, Single height) {
-    if (survives([&](ErrorInfo& error) { return control_.SetSize(width, height, &error); })) live_ = true;
+    ErrorInfo error;
+    throwUnlessOk(control_.SetSize(width, height, &error), error);
 }
 
 bool ControlHost::input(const InputEvent& event) {
@@ -94,9 +88,9 @@ void ControlHost::paint(Painter& painter) {
 
 void ControlHost::setAmbient(StringView name, const Variant& value) {
     putMember(ambient_, name, value);
-    if (!live_) return;
     ErrorInfo error;
-    throwUnlessOk(control_.AmbientPropertyChanged(ambient_.description().find(name)->name, &error), error);
+    const Status status = control_.AmbientPropertyChanged(ambient_.description().find(name)->name, &error);
+    if (status != Status::UnexpectedCall) throwUnlessOk(status, error); // one that is not live needs not be told
 }
 
 void ControlHost::PropertyChanged(StringView name) {

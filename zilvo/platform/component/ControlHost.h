@@ -83,16 +83,11 @@ private:
     Ambient& ambient() override { return ambient_; }
     Extender& extender() override { return extender_; }
 
-    /// Makes a call of the control; false when a handler has destroyed this host meanwhile. Fails as the call does.
-    template <class Call>
-    bool survives(const Call& call);
-
     Ref<Object> object_;
     HostedControl& control_;
     StandardAmbient ambient_;
     HostExtender extender_{*this};
-    bool live_ = false;
-    bool* gone_ = nullptr; ///< told when the host goes away inside survives()
+    bool* gone_ = nullptr; ///< told when the host goes away inside open()
     std::vector<String> changes_;
     std::size_t beeps_ = 0;
     std::size_t repaints_ = 0;

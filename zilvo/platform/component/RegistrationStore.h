@@ -8,7 +8,8 @@ namespace zilvo::platform {
 
 /// Registrations in one file that any number of processes read and change at once. All calls throw Failures:
 /// RegistrationsUnreadable for a file that is damaged, naming the line, that a newer version wrote, or that is no file;
-/// RegistrationsUnwritable where it cannot be replaced. A change that fails leaves the file as it was.
+/// RegistrationsUnwritable where it cannot be replaced. A change that fails leaves the file as it was, unless its
+/// folder fails to reach the disk: see writeFile().
 class RegistrationStore {
 public:
     /// Names another file than the usual one.
