@@ -60,8 +60,8 @@ void putByName(benchmark::State& state) {
 /// The lifecycle that a host runs a loaded instance through, from the class factory on.
 void createLoadDestroy(benchmark::State& state) {
     void* object = nullptr;
-    getClassObject(libraryModule(), libraryModule().description().find(u"ssOKCancel")->identity.classId,
-                   ClassFactoryInterface, &object);
+    getClassObject(libraryModule(), &libraryModule().description().find(u"ssOKCancel")->identity.classId,
+                   &ClassFactoryInterface, &object);
     const Ref<ClassFactory> factory(*static_cast<ClassFactory*>(object));
     factory->Release();
     const MemoryPropertyBag empty;

@@ -69,7 +69,8 @@ private:
         Event& event_;
     };
 
-    void sweep() noexcept {
+    /// Kept out of the way of raises in which nobody detaches.
+    [[gnu::cold, gnu::noinline]] void sweep() noexcept {
         while (std::exchange(state_.hasDetached, false)) {
             std::stable_partition(slots_.begin(), slots_.end(),
                                   [](const Ref<Slot>& slot) { return slot->isConnected(); });
