@@ -122,6 +122,12 @@ Widget* Control::focus() noexcept {
     return focused;
 }
 
+String Control::accessKeys() noexcept {
+    String letters;
+    edge("accessKeys", nullptr, [&] { letters = router_.accessKeys(); });
+    return letters;
+}
+
 void Control::Close() noexcept {
     stage_ = Stage::Closed;
     userControl.setSite(nullptr);

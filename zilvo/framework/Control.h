@@ -24,6 +24,8 @@ public:
     Surface& surface() noexcept final { return userControl; }
     Described& surfaceMembers() noexcept final { return userControl; }
     Widget* focus() noexcept final;
+    std::optional<std::chrono::milliseconds> clockWanted() noexcept final { return router_.clockWanted(); }
+    String accessKeys() noexcept final;
     Menu* lastPopup() noexcept final { return router_.popup().lastRoot(); }
 
 protected:

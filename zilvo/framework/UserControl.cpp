@@ -168,6 +168,10 @@ void UserControl::viewChanged() noexcept {
     if (site_) site_->ViewChanged();
 }
 
+bool UserControl::leaveFocus(bool forward) {
+    return site_ && site_->LeaveFocus(forward);
+}
+
 const Widget* UserControl::embeddingWidget() const noexcept {
     return site_ ? site_->embeddingWidget() : nullptr;
 }

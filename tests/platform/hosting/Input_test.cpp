@@ -142,5 +142,88 @@ TEST(Spinning, EndsWhenAHandlerTakesTheButtonOrThePointerAway) {
     }
 }
 
+TEST(Windows, TheKeyboardComesAndGoes) {
+    struct Host final : ControlHost {
+        using ControlHost::ControlHost;
+        bool LeaveFocus(bool forward) override { return (asked += forward ? '>' : '<', takes); }
+        std::string asked;
+        bool takes = true;
+    };
+    auto owned = std::make_unique<Host>(GalleryHost::make(u"Outer"));
+    Host& host = *owned;
+    const GalleryHost g(std::move(owned));
+    const auto focus = [&] {
+        const Widget* widget = g->control().focus();
+        return widget ? shownName(*widget) : "none";
+    };
+    using namespace input;
+    EXPECT_TRUE(g.act(FocusIn{Entry::First}));
+    EXPECT_EQ(focus(), "cmdPush(0)");
+    EXPECT_FALSE(g.key(u"Shift+Tab"));
+    EXPECT_EQ(focus() + host.asked, "none<");
+    EXPECT_TRUE(g.act(FocusIn{Entry::Last}));
+    EXPECT_EQ(focus(), "cmdPush(1)");
+    EXPECT_TRUE(g.key(u"Shift+Tab"));
+    EXPECT_EQ(focus() + host.asked, "ssoPick(1)<") << "inside it nobody asks";
+    EXPECT_TRUE(g.act(FocusOut{}));
+    EXPECT_FALSE(g.act(FocusOut{}));
+    EXPECT_EQ(focus(), "none");
+    EXPECT_TRUE(g.act(FocusIn{}));
+    EXPECT_EQ(focus(), "ssoPick(1)") << "where it was";
+    g.act(FocusOn{g[u"cmdPush1"]});
+    EXPECT_FALSE(g.act(FocusOn{g[u"smallOne"]})) << "is no stop itself";
+    host.takes = false;
+    EXPECT_TRUE(g.key(u"Tab"));
+    EXPECT_EQ(focus() + host.asked, "cmdPush(0)<>") << "goes round";
+    g.act(FocusOut{});
+    g.put(u"cmdPush0", u"Enabled", false);
+    g.act(FocusIn{});
+    EXPECT_EQ(focus(), "ssoPick(1)") << "the first where the last cannot have it";
+}
+
+TEST(Windows, AWidgetIsInvokedWithoutPointerAndFocus) {
+    const GalleryHost g;
+    g.act(input::FocusOn{g[u"cmdPush1"]});
+    const Widget* focused = g->control().focus();
+    g.put(u"cmdPush0", u"Left", -30000);
+    EXPECT_FALSE(g.click(u"cmdPush0")) << "no pointer gets there";
+    EXPECT_TRUE(g.act(input::Invoke{g[u"cmdPush0"]}));
+    EXPECT_TRUE(g.act(input::Invoke{g[u"spnCount"], input::Action::SpinDown}));
+    EXPECT_FALSE(g.act(input::Invoke{g[u"cmdPush0"], input::Action::SpinDown}));
+    EXPECT_TRUE(g.act(input::Invoke{g[u"mnuPick0"]}));
+    g.put(u"cmdPush0", u"Enabled", false);
+    EXPECT_FALSE(g.act(input::Invoke{g[u"cmdPush0"]}));
+    EXPECT_EQ(g.heard(), (Heard{"CommandClicked(0)", "SpunDown()", "MenuClicked(0)"}));
+    EXPECT_EQ(g->control().focus(), focused);
+}
+
+TEST(Windows, ALostPointerLetsGoAndTheClockIsWantedWhileItMatters) {
+    const GalleryHost g;
+    g.press(g.pointOf(u"cmdPush0"));
+    EXPECT_FALSE(g->control().clockWanted()) << "held, but time is nothing to it";
+    EXPECT_TRUE(g.act(input::PointerLost{}));
+    EXPECT_FALSE(g[u"cmdPush0"].isPressed() || g.act(input::PointerLost{}) || g.release(g.pointOf(u"cmdPush0")));
+    EXPECT_EQ(g.heard(), Heard{});
+
+    bool letIn = false;
+    g->on(u"SpunUp", [&](std::span<Variant>) { letIn = letIn || g.wait(10000); });
+    g.press(g.pointOf(u"spnCount", 0.5F, 0.25F));
+    EXPECT_EQ(g->control().clockWanted(), SpinButton::RepeatDelay);
+    g.wait(Delay + Every / 4);
+    EXPECT_EQ(g->control().clockWanted(), std::chrono::milliseconds(Every * 3 / 4));
+    EXPECT_EQ(g.heard().size(), 2U);
+    EXPECT_FALSE(letIn) << "a handler's own loop does not spin on";
+    g.act(input::PointerLost{});
+    EXPECT_FALSE(g->control().clockWanted());
+}
+
+TEST(Windows, AccessKeysAreThoseThatDoSomethingNow) {
+    const GalleryHost g(u"Outer");
+    EXPECT_EQ(toUtf8(g->control().accessKeys()), "B123A");
+    g.put(u"cmdPush0", u"Enabled", false);
+    g.put(u"cmdPush1", u"Caption", u"So&rt");
+    EXPECT_EQ(toUtf8(g->control().accessKeys()), "123R");
+}
+
 } // namespace
 } // namespace zilvo

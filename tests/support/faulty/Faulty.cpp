@@ -138,6 +138,8 @@ public:
     Surface& surface() noexcept override { return inner_->surface(); }
     Described& surfaceMembers() noexcept override { return inner_->surfaceMembers(); }
     Widget* focus() noexcept override { return inner_->focus(); }
+    std::optional<std::chrono::milliseconds> clockWanted() noexcept override { return inner_->clockWanted(); }
+    String accessKeys() noexcept override { return inner_->accessKeys(); }
     Menu* lastPopup() noexcept override { return inner_->lastPopup(); }
 
 private:

@@ -84,6 +84,10 @@ public:
     /// choice in as input; else the control draws it and takes the choice itself.
     virtual bool ShowPopup(Menu& /*root*/) { return false; }
 
+    /// Tab goes past the control's last widget, or back past its first. A host with more than this control takes the
+    /// keyboard on and gives true; else it goes round.
+    virtual bool LeaveFocus(bool /*forward*/) { return false; }
+
     /// For a control that another control embeds: the child widget that it is there. A host's own controls have none.
     virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
 

@@ -50,6 +50,12 @@ public:
     virtual Described& surfaceMembers() noexcept = 0;
     /// The widget that has the keyboard; null for none, or when the host fails to tell whether the control is shown.
     virtual Widget* focus() noexcept = 0;
+    /// How long until the host's clock matters, by TimePassed: a timer of the host runs that long, and none while there
+    /// is nothing to wait for.
+    virtual std::optional<std::chrono::milliseconds> clockWanted() noexcept = 0;
+    /// The letters that, typed with Alt, do something now, in Tab order; none when the host fails to tell whether the
+    /// control is shown.
+    virtual String accessKeys() noexcept = 0;
     /// The root of the menu that was last popped up; null for none.
     virtual Menu* lastPopup() noexcept = 0;
 

@@ -35,6 +35,22 @@ struct PointerUp {
     Integer button = LeftButton;
 };
 
+/// The host takes the pointer away while a button is down, for a dialog or another window: what is held is let go of
+/// without a click.
+struct PointerLost {};
+
+/// The keyboard comes to the control: to the first of its widgets in Tab order, the last, or the one that had it last.
+enum class Entry : std::uint8_t { First, Last, Same };
+struct FocusIn {
+    Entry entry = Entry::Same;
+};
+/// The keyboard comes to one widget of it.
+struct FocusOn {
+    Widget& widget;
+};
+/// The keyboard leaves the control.
+struct FocusOut {};
+
 /// A typed character, by its code: 13 is Enter, 27 Escape.
 struct KeyTyped {
     Integer keyAscii;
@@ -50,7 +66,8 @@ struct KeyDown {
 };
 
 /// Time that passed on the host's clock since the last input; what is held down repeats by it. A clock that leaps,
-/// after the machine slept or was set, counts as `Most`, one that goes back as no time.
+/// after the machine slept or was set, counts as `Most`, one that goes back as no time. It stands still while an input
+/// is handled, be it that a handler runs a loop of its own.
 struct TimePassed {
     static constexpr std::chrono::milliseconds Most = std::chrono::minutes(1);
     std::chrono::milliseconds elapsed;
@@ -64,10 +81,18 @@ struct Act {
     Action action = Action::Click;
 };
 
+/// The same for an assistive technology, or the window's default button: done without a pointer, wherever the widget is
+/// and whatever covers it, and the keyboard stays where it is.
+struct Invoke {
+    Widget& widget;
+    Action action = Action::Click;
+};
+
 } // namespace input
 
-using InputEvent = std::variant<input::PointerDown, input::PointerMove, input::PointerUp, input::KeyTyped,
-                                input::KeyDown, input::TimePassed, input::Act>;
+using InputEvent = std::variant<input::PointerDown, input::PointerMove, input::PointerUp, input::PointerLost,
+                                input::FocusIn, input::FocusOn, input::FocusOut, input::KeyTyped, input::KeyDown,
+                                input::TimePassed, input::Act, input::Invoke>;
 
 /// Reads "Tab", "Shift+Tab", "Left", "Alt+6", "Escape", "a"; nothing for anything else.
 std::optional<input::KeyDown> parseKey(StringView text);

@@ -59,10 +59,25 @@ std::vector<Surface*> surfacesFrom(Surface& root, const Widget* widget) {
     return surfaces;
 }
 
+/// Sets a flag for a scope.
+class Handling {
+public:
+    explicit Handling(bool& flag) noexcept : flag_(flag), before_(std::exchange(flag, true)) {}
+    Handling(const Handling&) = delete;
+    Handling& operator=(const Handling&) = delete;
+    ~Handling() { flag_ = before_; }
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
 } // namespace
 
 bool InputRouter::route(const InputEvent& event) {
     if (!root_.acceptsInput()) return false;
+    if (handles_ && std::holds_alternative<input::TimePassed>(event)) return false;
+    const Handling handling(handles_);
     const bool acted = std::visit([this](const auto& given) { return on(given); }, event);
     focus(); // a widget that a handler has disabled or hidden hands the keyboard on
     return acted;
@@ -113,6 +128,31 @@ bool InputRouter::on(const input::PointerUp& event) {
     return root_.hitTest(event.at).widget == released && click(released);
 }
 
+bool InputRouter::on(const input::PointerLost& /*event*/) {
+    return letGo() != nullptr;
+}
+
+bool InputRouter::on(const input::FocusIn& event) {
+    if (event.entry != input::Entry::Same) return enterFocus(event.entry == input::Entry::First);
+    if (focus()) return true;
+    if (!lastFocus_ || !lastFocus_->acceptsInput()) return enterFocus(true);
+    setFocus(lastFocus_);
+    return true;
+}
+
+bool InputRouter::on(const input::FocusOn& event) {
+    if (!event.widget.takesFocus() || !event.widget.acceptsInput()) return false;
+    setFocus(&event.widget);
+    return true;
+}
+
+bool InputRouter::on(const input::FocusOut& /*event*/) {
+    if (!focus_) return false;
+    lastFocus_ = focus_;
+    setFocus(nullptr);
+    return true;
+}
+
 bool InputRouter::on(const input::KeyTyped& event) {
     if (popup_.isOpen()) {
         const auto letter = static_cast<char16_t>(event.keyAscii);
@@ -145,8 +185,7 @@ bool InputRouter::on(const input::KeyDown& event) {
     }
     switch (event.key) {
     case Key::Tab:
-        advanceFocus((event.shift & input::ShiftMask) == 0);
-        return focus_ != nullptr;
+        return tab((event.shift & input::ShiftMask) == 0);
     case Key::Enter:
         return types && on(input::KeyTyped{Enter});
     case Key::Escape:
@@ -169,11 +208,7 @@ bool InputRouter::on(const input::TimePassed& event) {
 
 bool InputRouter::on(const input::Act& event) {
     Widget& widget = event.widget;
-    if (auto* item = dynamic_cast<Menu*>(&widget)) {
-        if (event.action != input::Action::Click || !PopupMenu::canChoose(*item)) return false;
-        popup_.close();
-        return choose(item);
-    }
+    if (auto* item = dynamic_cast<Menu*>(&widget)) return chooseNow(*item, event.action);
     if (!widget.acceptsInput()) return false;
     Rectangle area{0, 0, widget.bounds().width, widget.bounds().height};
     if (event.action != input::Action::Click) {
@@ -189,6 +224,21 @@ bool InputRouter::on(const input::Act& event) {
         for (const Single across : fractions)
             if (press(widget, {area.left + area.width * across, area.top + area.height * down})) return true;
     return false;
+}
+
+bool InputRouter::on(const input::Invoke& event) {
+    Widget& widget = event.widget;
+    if (auto* item = dynamic_cast<Menu*>(&widget)) return chooseNow(*item, event.action);
+    if (event.action == input::Action::Click) return click(&widget);
+    auto* spin = dynamic_cast<SpinButton*>(&widget);
+    return spin && spin->acceptsInput() &&
+           spin->arrowKey(event.action == input::Action::SpinUp ? Direction::Up : Direction::Down);
+}
+
+bool InputRouter::chooseNow(Menu& item, input::Action action) {
+    if (action != input::Action::Click || !PopupMenu::canChoose(item)) return false;
+    popup_.close();
+    return choose(&item);
 }
 
 /// A press and a release at a point of the widget, when that is where the pointer would meet it.
@@ -244,6 +294,26 @@ void InputRouter::setFocus(Widget* widget) {
     root_.viewChanged();
 }
 
+bool InputRouter::enterFocus(bool forward) {
+    setFocus(nullptr);
+    advanceFocus(forward);
+    return focus_ != nullptr;
+}
+
+bool InputRouter::tab(bool forward) {
+    auto order = tabOrderOf(root_);
+    if (!forward) std::reverse(order.begin(), order.end());
+    const auto at = std::find(order.begin(), order.end(), focus_);
+    const bool isLast = at != order.end() &&
+                        std::none_of(at + 1, order.end(), [](const Widget* widget) { return widget->isTabStop(); });
+    if (isLast && root_.leaveFocus(forward)) {
+        on(input::FocusOut());
+        return false;
+    }
+    advanceFocus(forward);
+    return focus_ != nullptr;
+}
+
 void InputRouter::advanceFocus(bool forward) {
     auto order = tabOrderOf(root_);
     if (!forward) std::reverse(order.begin(), order.end());
@@ -260,6 +330,17 @@ void InputRouter::advanceFocus(bool forward) {
     const auto stop =
         std::find_if(order.begin(), order.end(), [](const Widget* widget) { return widget->isTabStop(); });
     setFocus(stop == order.end() ? nullptr : *stop);
+}
+
+std::optional<std::chrono::milliseconds> InputRouter::clockWanted() const {
+    return captured_ && captured_->isPressed() ? captured_->untilHeld() : std::nullopt;
+}
+
+String InputRouter::accessKeys() const {
+    String letters;
+    for (const Widget* widget : tabOrderOf(root_))
+        if (const char16_t letter = widget->accessKey(); letter && widget->isClickable()) letters += letter;
+    return letters;
 }
 
 bool InputRouter::accessKey(char16_t letter) {

@@ -40,6 +40,10 @@ void SpinButton::held(std::chrono::milliseconds elapsed) {
     }
 }
 
+std::optional<std::chrono::milliseconds> SpinButton::untilHeld() const noexcept {
+    return spinning_ == Spin::None ? std::nullopt : std::optional(untilRepeat_);
+}
+
 bool SpinButton::arrowKey(Direction direction) {
     spin(direction == Direction::Up || direction == Direction::Right ? Spin::Up : Spin::Down);
     return true;

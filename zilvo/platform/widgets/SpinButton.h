@@ -36,6 +36,7 @@ public:
     void pointerDown(Integer button, Integer shift, Point at) override;
     void pointerUp() override;
     void held(std::chrono::milliseconds elapsed) override;
+    std::optional<std::chrono::milliseconds> untilHeld() const noexcept override;
     bool arrowKey(Direction direction) override;
     void paint(Painter& painter) const override;
 

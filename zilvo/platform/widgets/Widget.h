@@ -158,6 +158,8 @@ public:
     virtual void pointerUp() {}
     /// Time that passed on the host's clock while the left button was held down on it.
     virtual void held(std::chrono::milliseconds /*elapsed*/) {}
+    /// How long until held() does something; nothing when time is nothing to it.
+    virtual std::optional<std::chrono::milliseconds> untilHeld() const noexcept { return std::nullopt; }
     /// An arrow key; false when the kind has no use for it.
     virtual bool arrowKey(Direction /*direction*/) { return false; }
     /// Whether arrow keys move among its like in the container.
