@@ -64,7 +64,10 @@ private:
     Extender& extender() override;
     void PropertyChanged(StringView /*name*/) override {}
     void SizeChanged(Single width, Single height) override;
-    void ViewChanged() noexcept override { changed(); }
+    void ViewChanged() noexcept override { changed(Aspect::Look); }
+    void WidgetChanged(const Widget& widget, Aspect aspect) noexcept override {
+        surface().widgetChanged(widget, aspect);
+    }
     void Beep() override;
     bool ShowPopup(Menu& root) override;
     const Widget* embeddingWidget() const noexcept override { return this; }

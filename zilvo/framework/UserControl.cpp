@@ -172,6 +172,10 @@ bool UserControl::leaveFocus(bool forward) {
     return site_ && site_->LeaveFocus(forward);
 }
 
+void UserControl::widgetChanged(const Widget& widget, Aspect aspect) noexcept {
+    if (site_) site_->WidgetChanged(widget, aspect);
+}
+
 const Widget* UserControl::embeddingWidget() const noexcept {
     return site_ ? site_->embeddingWidget() : nullptr;
 }

@@ -58,6 +58,7 @@ public:
     void letGo() noexcept override;
     bool acceptsInput() const override;
     void viewChanged() noexcept override;
+    void widgetChanged(const Widget& widget, Aspect aspect) noexcept override;
     bool leaveFocus(bool forward) override;
     const Widget* embeddingWidget() const noexcept override;
     void surfaceMouseDown(Integer button, Integer shift, Point at) override;

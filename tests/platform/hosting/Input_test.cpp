@@ -225,5 +225,51 @@ TEST(Windows, AccessKeysAreThoseThatDoSomethingNow) {
     EXPECT_EQ(toUtf8(g->control().accessKeys()), "123R");
 }
 
+TEST(Windows, TheHostHearsWhichWidgetChangedInWhichRespect) {
+    struct Host final : ControlHost {
+        using ControlHost::ControlHost;
+        void WidgetChanged(const Widget& widget, Aspect aspect) noexcept override {
+            constexpr const char* names[] = {"Value", "Caption", "Enabled", "Visible", "Place",
+                                             "Focus", "Pressed", "ToolTip", "Default", "Look"};
+            heard += shownName(widget) + "." + names[static_cast<std::size_t>(aspect)] + " ";
+        }
+        std::string heard;
+    };
+    auto owned = std::make_unique<Host>(GalleryHost::make(u"WidgetGallery"));
+    Host& host = *owned;
+    const GalleryHost g(std::move(owned));
+    const auto hears = [&](const std::string& expected) { EXPECT_EQ(std::exchange(host.heard, {}), expected); };
+    hears("");
+    g.put(u"cmdPush0", u"Caption", u"Go on");
+    g.put(u"cmdPush0", u"Enabled", false);
+    g.put(u"cmdPush0", u"Enabled", false);
+    g.put(u"cmdPush0", u"Visible", false);
+    g.put(u"cmdPush0", u"Left", 10);
+    g.put(u"cmdPush0", u"ToolTipText", u"tip");
+    g.put(u"cmdPush1", u"Default", true);
+    hears("cmdPush(0).Caption cmdPush(0).Enabled cmdPush(0).Visible cmdPush(0).Place cmdPush(0).ToolTip "
+          "cmdPush(0).Default cmdPush(1).Default ");
+    g.put(u"chkPick0", u"Value", 1);
+    g.put(u"sscToggle", u"Value", true);
+    hears("chkPick(0).Value sscToggle.Value ");
+    for (const auto& [before, now] :
+         {std::pair{u"optChoice1", u"optChoice2"}, {u"ssoSeat1", u"ssoSeat2"}, {u"ribCard0", u"ribCard1"}}) {
+        g.put(before, u"Value", true);
+        host.heard.clear();
+        g.put(now, u"Value", true);
+        hears(shownName(g[before]) + ".Value " + shownName(g[now]) + ".Value ");
+    }
+    g.press(g.pointOf(u"cmdPush2"));
+    g.release({-1, -1});
+    hears("cmdPush(2).Focus cmdPush(2).Pressed cmdPush(2).Pressed ");
+
+    auto outer = std::make_unique<Host>(GalleryHost::make(u"Outer"));
+    Host& outerHost = *outer;
+    const GalleryHost o(std::move(outer));
+    outerHost.heard.clear();
+    o.click(u"smallOne.ssoPick2");
+    EXPECT_EQ(outerHost.heard.substr(0, 18), "ssoPick(2).Focus s") << "of an embedded control too";
+}
+
 } // namespace
 } // namespace zilvo

@@ -66,6 +66,7 @@ protected:
 
 class Menu;
 class Widget;
+enum class Aspect : std::uint8_t;
 
 /// The place that a host gives a control on one of its windows. It outlives the control or closes it first.
 class ControlSite {
@@ -78,6 +79,8 @@ public:
     virtual void SizeChanged(Single width, Single height) = 0;
     /// Something is to be painted again.
     virtual void ViewChanged() noexcept {}
+    /// A widget of the control, or of one embedded in it, has changed in that respect, and is to be painted again.
+    virtual void WidgetChanged(const Widget& /*widget*/, Aspect /*aspect*/) noexcept { ViewChanged(); }
     virtual void Beep() = 0;
 
     /// A menu is to pop up at the pointer. A host that shows it in a way of its own gives true and hands the user's

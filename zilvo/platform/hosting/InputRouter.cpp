@@ -291,7 +291,6 @@ void InputRouter::setFocus(Widget* widget) {
     if (focus_) focus_->setFocused(false);
     focus_ = widget;
     if (focus_) focus_->setFocused(true);
-    root_.viewChanged();
 }
 
 bool InputRouter::enterFocus(bool forward) {

@@ -26,19 +26,19 @@ CaptionedWidget::CaptionedWidget(Container& container, const Placement& place, c
 
 void CaptionedWidget::put_Caption(StringView newCaption) {
     caption_.set(newCaption);
-    changed();
+    changed(Aspect::Caption);
 }
 
 void CaptionedWidget::put_BackColor(Colour newBackColor) {
     if (backColor_ == newBackColor) return;
     backColor_ = newBackColor;
-    changed();
+    changed(Aspect::Look);
 }
 
 void CaptionedWidget::put_ForeColor(Colour newForeColor) {
     if (foreColor_ == newForeColor) return;
     foreColor_ = newForeColor;
-    changed();
+    changed(Aspect::Look);
 }
 
 } // namespace zilvo::platform

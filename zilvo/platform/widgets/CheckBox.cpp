@@ -22,7 +22,7 @@ void CheckBox::change(Integer newValue) {
                       platform::describe(*this, "Value") + " cannot be " + platform::describe(Variant(newValue)));
     value_ = newValue;
     const HeldSurface held(surface());
-    changed();
+    changed(Aspect::Value);
     Integer index = this->index();
     click_(index);
 }

@@ -33,8 +33,10 @@ bool CommandButton::get_Default() const noexcept {
 
 void CommandButton::put_Default(bool newDefault) {
     if (newDefault == get_Default()) return;
-    surface().defaultButton = newDefault ? this : nullptr;
-    changed();
+    const CommandButton* before = std::exchange(surface().defaultButton, newDefault ? this : nullptr);
+    const HeldSurface held(surface());
+    if (before && before != this) before->changed(Aspect::Default);
+    changed(Aspect::Default);
 }
 
 bool CommandButton::get_Cancel() const noexcept {
@@ -44,7 +46,7 @@ bool CommandButton::get_Cancel() const noexcept {
 void CommandButton::put_Cancel(bool newCancel) {
     if (newCancel == get_Cancel()) return;
     surface().cancelButton = newCancel ? this : nullptr;
-    changed();
+    changed(Aspect::Look);
 }
 
 void CommandButton::userClick() {

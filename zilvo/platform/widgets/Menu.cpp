@@ -26,7 +26,7 @@ Menu::Menu(Menu& parent, const Design& design, ClickHandler click)
 
 void Menu::put_Caption(StringView newCaption) {
     caption_.set(newCaption);
-    changed();
+    changed(Aspect::Caption);
 }
 
 void Menu::put_Checked(bool newChecked) {
@@ -35,7 +35,7 @@ void Menu::put_Checked(bool newChecked) {
         throw Failure(Status::InvalidPropertyValue,
                       platform::describe(*this, "Checked") + " cannot be True on a root, a submenu or a separator");
     checked_ = newChecked;
-    changed();
+    changed(Aspect::Value);
 }
 
 bool Menu::opensSubmenu() const noexcept {

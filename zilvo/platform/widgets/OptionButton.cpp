@@ -23,15 +23,16 @@ void OptionButton::put_Value(bool newValue) {
         select();
     } else if (get_Value()) {
         container().selectedOption = nullptr;
-        changed();
+        changed(Aspect::Value);
     }
 }
 
 void OptionButton::select() {
     if (get_Value()) return;
-    container().selectedOption = this;
+    const OptionButton* before = std::exchange(container().selectedOption, this);
     const HeldSurface held(surface());
-    changed();
+    if (before) before->changed(Aspect::Value);
+    changed(Aspect::Value);
     Integer index = this->index();
     click_(index);
 }

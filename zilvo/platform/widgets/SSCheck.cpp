@@ -17,7 +17,7 @@ SSCheck::SSCheck(Container& container, const Design& design, ClickHandler click)
 void SSCheck::put_Value(bool newValue) {
     if (value_ == newValue) return;
     value_ = newValue;
-    changed();
+    changed(Aspect::Value);
 }
 
 void SSCheck::userClick() {

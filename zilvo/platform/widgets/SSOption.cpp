@@ -1,5 +1,7 @@
 #include "zilvo/platform/widgets/SSOption.h"
 
+#include "zilvo/platform/widgets/Surface.h"
+
 namespace zilvo::platform {
 
 namespace {
@@ -18,8 +20,10 @@ SSOption::SSOption(Container& container, const Design& design, ClickHandler clic
 
 void SSOption::put_Value(bool newValue) {
     if (newValue == get_Value()) return;
-    container().selectedSSOption = newValue ? this : nullptr;
-    changed();
+    const SSOption* before = std::exchange(container().selectedSSOption, newValue ? this : nullptr);
+    const HeldSurface held(surface());
+    if (before && before != this) before->changed(Aspect::Value);
+    changed(Aspect::Value);
 }
 
 void SSOption::userClick() {

@@ -1,6 +1,7 @@
 #include "zilvo/platform/widgets/SSRibbon.h"
 
 #include "zilvo/platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 
@@ -27,19 +28,21 @@ SSRibbon::SSRibbon(Container& container, const Design& design, ClickHandler clic
 
 void SSRibbon::put_Value(bool newValue) {
     if (newValue == get_Value()) return;
-    container().pressedRibbon = newValue ? this : nullptr;
-    changed();
+    const SSRibbon* before = std::exchange(container().pressedRibbon, newValue ? this : nullptr);
+    const HeldSurface held(surface());
+    if (before && before != this) before->changed(Aspect::Value);
+    changed(Aspect::Value);
 }
 
 void SSRibbon::put_Outline(bool newOutline) {
     if (outline_ == newOutline) return;
     outline_ = newOutline;
-    changed();
+    changed(Aspect::Look);
 }
 
 void SSRibbon::put_BackColor(Colour newBackColor) {
     backColor_ = newBackColor;
-    changed();
+    changed(Aspect::Look);
 }
 
 void SSRibbon::userClick() {

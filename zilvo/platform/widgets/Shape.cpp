@@ -31,7 +31,7 @@ void Shape::put_Shape(Integer newShape) {
         throw Failure(Status::InvalidPropertyValue,
                       platform::describe(*this, "Shape") + " cannot be " + platform::describe(Variant(newShape)));
     form_ = newShape;
-    changed();
+    changed(Aspect::Look);
 }
 
 const ClassDescription& Shape::description() const noexcept {

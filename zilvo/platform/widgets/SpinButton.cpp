@@ -21,13 +21,13 @@ void SpinButton::pointerDown(Integer button, Integer /*shift*/, Point at) {
     if (button != 1) return;
     spinning_ = half(Spin::Up).contains(at) ? Spin::Up : Spin::Down;
     untilRepeat_ = RepeatDelay;
-    changed();
+    changed(Aspect::Look);
     spin(spinning_);
 }
 
 void SpinButton::pointerUp() {
     spinning_ = Spin::None;
-    changed();
+    changed(Aspect::Look);
 }
 
 void SpinButton::held(std::chrono::milliseconds elapsed) {

@@ -59,6 +59,8 @@ public:
     /// Whether the user can reach the surface at all. Fails as the host does.
     virtual bool acceptsInput() const = 0;
     virtual void viewChanged() noexcept = 0;
+    /// One of its widgets, or of those of a control embedded in it, has changed in that respect.
+    virtual void widgetChanged(const Widget& widget, Aspect aspect) noexcept = 0;
     /// Tab goes past the last widget, or back past the first: true when the host takes the keyboard on.
     virtual bool leaveFocus(bool /*forward*/) { return false; }
     /// The widget that embeds the surface's control in another control; null for a control that a host drives.

@@ -67,14 +67,14 @@ void Widget::place(Single Rectangle::*edge, Single value) {
         throw Failure(Status::InvalidPropertyValue, describe(*this, member) + " cannot be " + describe(Variant(value)));
     bounds_.*edge = twips;
     const HeldSurface held(surface());
-    changed();
+    changed(Aspect::Place);
     if (isSize) sizeChanged();
 }
 
 void Widget::followSize(Single width, Single height) noexcept {
     bounds_.width = width;
     bounds_.height = height;
-    changed();
+    changed(Aspect::Place);
 }
 
 void Widget::put_Left(Single newLeft) {
@@ -99,22 +99,22 @@ void Widget::bringToFront() noexcept {
         if (&other != this && &other.container() == &container_ && other.zOrder_ >= front) front = other.zOrder_ + 1;
     if (front == zOrder_) return;
     zOrder_ = front;
-    changed();
+    changed(Aspect::Look);
 }
 
 void Widget::show(bool newVisible) {
     visible_ = newVisible;
-    changed();
+    changed(Aspect::Visible);
 }
 
 void Widget::enable(bool newEnabled) {
     enabled_ = newEnabled;
-    changed();
+    changed(Aspect::Enabled);
 }
 
 void Widget::put_ToolTipText(StringView newToolTipText) {
     toolTipText_.set(newToolTipText);
-    changed();
+    changed(Aspect::ToolTip);
 }
 
 void Widget::put_TabIndex(Integer newTabIndex) {
@@ -140,14 +140,19 @@ bool Widget::leadsGroup() const {
     return true;
 }
 
+void Widget::setFocused(bool focused) noexcept {
+    focused_ = focused;
+    changed(Aspect::Focus);
+}
+
 void Widget::setPressed(bool pressed) noexcept {
     if (pressed_ == pressed) return;
     pressed_ = pressed;
-    changed();
+    changed(Aspect::Pressed);
 }
 
-void Widget::changed() const noexcept {
-    surface().viewChanged();
+void Widget::changed(Aspect aspect) const noexcept {
+    surface().widgetChanged(*this, aspect);
 }
 
 } // namespace zilvo::platform

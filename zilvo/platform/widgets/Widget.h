@@ -79,6 +79,9 @@ protected:
 
 enum class Direction : std::uint8_t { Up, Down, Left, Right };
 
+/// In which respect a widget has changed; Look is any other that is seen.
+enum class Aspect : std::uint8_t { Value, Caption, Enabled, Visible, Place, Focus, Pressed, ToolTip, Default, Look };
+
 /// What all kinds of child widget share: a name, a place, whether it is shown and takes input. A widget lives
 /// exactly as long as its control; the surface is not used while its widgets are destroyed.
 class Widget : public Described {
@@ -164,8 +167,7 @@ public:
     virtual bool arrowKey(Direction /*direction*/) { return false; }
     /// Whether arrow keys move among its like in the container.
     virtual bool isInGroupWith(const Widget& /*other*/) const noexcept { return false; }
-    /// Whoever moves the focus has the view painted again.
-    void setFocused(bool focused) noexcept { focused_ = focused; }
+    void setFocused(bool focused) noexcept;
     void setPressed(bool pressed) noexcept;
     /// One that was disabled or hidden from code no longer shows the focus; the keyboard goes on with the next input.
     bool isFocused() const { return focused_ && acceptsInput(); }
@@ -184,8 +186,8 @@ protected:
         const Rectangle drawn = bounds_.onWholePixels();
         return {0, 0, drawn.width, drawn.height};
     }
-    /// The view is out of date.
-    void changed() const noexcept;
+    /// Tells the host, for whom the view is out of date.
+    void changed(Aspect aspect) const noexcept;
     /// For a widget whose inside follows its size: runs after its width or height was set.
     virtual void sizeChanged() {}
     /// Whether none of its group that takes input comes before it in Tab order.
