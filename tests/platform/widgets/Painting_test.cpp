@@ -57,7 +57,8 @@ TEST(WidgetPainting, EachOtherMemberShowsAndIsPaintedAnewOnce) {
         const std::string before = g.painted();
         const auto repaints = g->repaints();
         g.put(path, member, value);
-        EXPECT_EQ(g->repaints(), repaints + 1);
+        const bool takesTheMark = path == u"ssoSeat1"; // from another, which is painted anew too
+        EXPECT_EQ(g->repaints(), repaints + (takesTheMark ? 2 : 1));
         EXPECT_NE(g.painted(), before);
     }
     std::set<std::string> looks;

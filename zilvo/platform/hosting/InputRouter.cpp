@@ -287,10 +287,7 @@ Widget* InputRouter::focus() {
 }
 
 void InputRouter::setFocus(Widget* widget) {
-    if (focus_ == widget) return;
-    if (focus_) focus_->setFocused(false);
-    focus_ = widget;
-    if (focus_) focus_->setFocused(true);
+    if (focus_ != widget) Widget::moveFocus(std::exchange(focus_, widget), widget);
 }
 
 bool InputRouter::enterFocus(bool forward) {

@@ -140,9 +140,11 @@ bool Widget::leadsGroup() const {
     return true;
 }
 
-void Widget::setFocused(bool focused) noexcept {
-    focused_ = focused;
-    changed(Aspect::Focus);
+void Widget::moveFocus(Widget* from, Widget* to) noexcept {
+    if (from) from->focused_ = false;
+    if (to) to->focused_ = true;
+    for (const Widget* widget : {from, to})
+        if (widget) widget->changed(Aspect::Focus);
 }
 
 void Widget::setPressed(bool pressed) noexcept {

@@ -167,7 +167,8 @@ public:
     virtual bool arrowKey(Direction /*direction*/) { return false; }
     /// Whether arrow keys move among its like in the container.
     virtual bool isInGroupWith(const Widget& /*other*/) const noexcept { return false; }
-    void setFocused(bool focused) noexcept;
+    /// The keyboard goes from one widget to another; either may be null.
+    static void moveFocus(Widget* from, Widget* to) noexcept;
     void setPressed(bool pressed) noexcept;
     /// One that was disabled or hidden from code no longer shows the focus; the keyboard goes on with the next input.
     bool isFocused() const { return focused_ && acceptsInput(); }
