@@ -24,7 +24,7 @@ private:
         misbehave_();
     }
     void Beep() override { misbehave_(); }
-    bool ShowPopup(platform::Menu& /*root*/) override {
+    bool ShowPopup(platform::Menu& /*root*/, platform::Point /*at*/) override {
         misbehave_();
         return false;
     }

@@ -51,11 +51,12 @@ TEST(PlatformFacts, MembersOfWhatHostsMeet) {
     }
     const std::map<std::string, std::string> expected = {
         {"Ambient", "BackColor -701(newBackColor), Font -703(newFont), ForeColor -704(newForeColor), "
-                    "UserMode -709(newUserMode)"},
+                    "UserMode -709(newUserMode), DisplayAsDefault -713(newDisplayAsDefault)"},
         {"StdFont", "Name 0(newName), Size 2(newSize), Bold 3(newBold), Italic 4(newItalic), "
                     "Underline 5(newUnderline), Strikethrough 6(newStrikethrough), Weight 7(newWeight), "
                     "Charset 8(newCharset)"},
-        {"Extender", "Left 1(newLeft), Top 2(newTop), Width 3(newWidth), Height 4(newHeight), Visible 5(newVisible)"},
+        {"Extender", "Left 1(newLeft), Top 2(newTop), Width 3(newWidth), Height 4(newHeight), Visible 5(newVisible), "
+                     "Enabled 6(newEnabled)"},
         {"UserControl", "BackColor 1(newBackColor), ForeColor 2(newForeColor), Width 3(newWidth), "
                         "Height 4(newHeight), ScaleWidth 5, ScaleHeight 6"},
         {"Widget", "Name -800, Index -801, Left -802(newLeft), Top -803(newTop), Width -804(newWidth), "

@@ -128,6 +128,12 @@ String Control::accessKeys() noexcept {
     return letters;
 }
 
+Widget* Control::windowButton(CommandButton* Surface::*button) noexcept {
+    Widget* found = nullptr;
+    edge("windowButton", nullptr, [&] { found = router_.windowButton(button); });
+    return found;
+}
+
 void Control::Close() noexcept {
     stage_ = Stage::Closed;
     userControl.setSite(nullptr);

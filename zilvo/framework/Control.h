@@ -26,6 +26,9 @@ public:
     Widget* focus() noexcept final;
     std::optional<std::chrono::milliseconds> clockWanted() noexcept final { return router_.clockWanted(); }
     String accessKeys() noexcept final;
+    Widget* defaultButton() noexcept final { return windowButton(&Surface::defaultButton); }
+    Widget* cancelButton() noexcept final { return windowButton(&Surface::cancelButton); }
+    bool ownsWidth() const noexcept final { return userControl.ownsWidth(); }
     Menu* lastPopup() noexcept final { return router_.popup().lastRoot(); }
 
 protected:
@@ -58,6 +61,7 @@ private:
     template <class Body>
     Status edge(const char* call, ErrorInfo* error, const Body& body) noexcept;
     void require(bool legal) const;
+    Widget* windowButton(CommandButton* Surface::*button) noexcept;
     template <class Body>
     void during(Stage on, Stage after, const Body& body);
 

@@ -6,6 +6,7 @@ class EmbeddedControl::OuterAmbient final : public Ambient {
 public:
     explicit OuterAmbient(UserControl& outer) noexcept : outer_(outer) {}
     bool get_UserMode() override { return outer_.get_Ambient().get_UserMode(); }
+    bool get_DisplayAsDefault() override { return outer_.get_Ambient().get_DisplayAsDefault(); }
     Colour get_BackColor() override { return outer_.get_BackColor(); }
     Colour get_ForeColor() override { return outer_.get_ForeColor(); }
     FontRef get_Font() override { return outer_.get_Font(); }
@@ -28,6 +29,8 @@ public:
     void put_Height(Single newHeight) override { widget_.put_Height(newHeight); }
     bool get_Visible() const noexcept override { return widget_.get_Visible(); }
     void put_Visible(bool newVisible) override { widget_.put_Visible(newVisible); }
+    bool get_Enabled() const noexcept override { return widget_.get_Enabled(); }
+    void put_Enabled(bool newEnabled) override { widget_.put_Enabled(newEnabled); }
 
 private:
     Widget& widget_;
@@ -117,8 +120,8 @@ void EmbeddedControl::Beep() {
     outerSurface_.Beep();
 }
 
-bool EmbeddedControl::ShowPopup(Menu& root) {
-    outerSurface_.PopupMenu(root);
+bool EmbeddedControl::ShowPopup(Menu& root, Point /*at*/) {
+    outerSurface_.PopupMenu(root); // whose router knows the point on its own surface
     return true;
 }
 

@@ -69,7 +69,7 @@ private:
         surface().widgetChanged(widget, aspect);
     }
     void Beep() override;
-    bool ShowPopup(Menu& root) override;
+    bool ShowPopup(Menu& root, Point at) override;
     const Widget* embeddingWidget() const noexcept override { return this; }
 
     // EventSink

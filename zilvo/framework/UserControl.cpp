@@ -49,7 +49,8 @@ UserControl::UserControl(Control& owner, const Design& design) noexcept
       height_(design.Height),
       backColor_(design.BackColor),
       foreColor_(design.ForeColor),
-      scaleMode_(design.ScaleMode) {}
+      scaleMode_(design.ScaleMode),
+      ownWidth_(design.OwnWidth) {}
 
 UserControl::~UserControl() = default;
 
@@ -138,7 +139,7 @@ Extender& UserControl::get_Extender() {
 }
 
 void UserControl::PopupMenu(Menu& root) {
-    if (!site_ || !site_->ShowPopup(root)) owner_.router_.showPopup(root);
+    if (!site_ || !site_->ShowPopup(root, owner_.router_.pointer())) owner_.router_.showPopup(root);
     viewChanged();
 }
 
@@ -161,7 +162,18 @@ void UserControl::letGo() noexcept {
 bool UserControl::acceptsInput() const {
     if (!site_) return false;
     if (const Widget* widget = site_->embeddingWidget()) return widget->acceptsInput();
-    return site_->extender().get_Visible();
+    const Extender& extender = site_->extender();
+    return extender.get_Visible() && extender.get_Enabled();
+}
+
+bool UserControl::isEnabled() const {
+    if (!site_) return true;
+    const Widget* widget = site_->embeddingWidget();
+    return site_->extender().get_Enabled() && (!widget || widget->surface().isEnabled());
+}
+
+bool UserControl::displaysDefault() const {
+    return !site_ || site_->ambient().get_DisplayAsDefault();
 }
 
 void UserControl::viewChanged() noexcept {

@@ -15,6 +15,7 @@ public:
     struct Design {
         Twips Width, Height;
         Stated<platform::ScaleMode> ScaleMode;
+        bool OwnWidth = false; ///< the control gives itself its width, whatever its host would have
         Colour BackColor = colours::ButtonFace;
         Colour ForeColor = colours::WindowText;
         FontDesign Font = {};
@@ -57,6 +58,8 @@ public:
     void hold() noexcept override;
     void letGo() noexcept override;
     bool acceptsInput() const override;
+    bool isEnabled() const override;
+    bool displaysDefault() const override;
     void viewChanged() noexcept override;
     void widgetChanged(const Widget& widget, Aspect aspect) noexcept override;
     bool leaveFocus(bool forward) override;
@@ -66,6 +69,7 @@ public:
 
     // For Control
     void setSite(ControlSite* site) noexcept { site_ = site; }
+    bool ownsWidth() const noexcept { return ownWidth_; }
     /// The host's size, in twips; always runs the Resize handler.
     void setSize(Single width, Single height);
     /// Fails with InvalidPropertyValue for what is no size.
@@ -92,6 +96,7 @@ private:
     Colour backColor_;
     Colour foreColor_;
     platform::ScaleMode scaleMode_;
+    bool ownWidth_;
     bool resizing_ = false;
 };
 

@@ -48,7 +48,7 @@ String inParentheses(Integer count) {
 constinit const ObjectDescription SpinCounter::Description{u"SpinCounter", members, events};
 
 SpinCounter::SpinCounter(ComponentModule& module)
-    : Control(module, {.Width = FixedWidth, .Height = 720, .ScaleMode = ScaleMode::Pixels}) {}
+    : Control(module, {.Width = FixedWidth, .Height = 720, .ScaleMode = ScaleMode::Pixels, .OwnWidth = true}) {}
 
 void SpinCounter::InitProperties() {
     put_MaximumLimit(LargestLimit);

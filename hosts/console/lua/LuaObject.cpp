@@ -63,9 +63,9 @@ void ScriptedControl::Beep() {
     note("beep");
 }
 
-bool ScriptedControl::ShowPopup(Menu& root) {
+bool ScriptedControl::ShowPopup(Menu& root, Point at) {
     note("pop-up " + toUtf8(root.name()));
-    return ControlHost::ShowPopup(root);
+    return ControlHost::ShowPopup(root, at);
 }
 
 void ScriptedControl::ViewChanged() noexcept {

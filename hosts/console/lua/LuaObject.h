@@ -27,7 +27,7 @@ protected:
     void PropertyChanged(platform::StringView name) override;
     void SizeChanged(platform::Single width, platform::Single height) override;
     void Beep() override;
-    bool ShowPopup(platform::Menu& root) override;
+    bool ShowPopup(platform::Menu& root, platform::Point at) override;
     void ViewChanged() noexcept override;
 
 private:

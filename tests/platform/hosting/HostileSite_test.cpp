@@ -22,7 +22,7 @@ struct Site final : ControlSite {
     void PropertyChanged(StringView) override { told(); }
     void SizeChanged(Single, Single) override { told(); }
     void Beep() override { told(); }
-    bool ShowPopup(Menu&) override { return told(), false; }
+    bool ShowPopup(Menu&, Point) override { return told(), false; }
     void ViewChanged() noexcept override {
         if (!mayFail) told();
     }

@@ -68,8 +68,9 @@ TEST(PopUp, IsPaintedOverTheControlAndPaintedAnewAtEachStep) {
 TEST(PopUp, AHostThatShowsItInItsOwnWayHandsTheChoiceIn) {
     struct Host final : ControlHost {
         using ControlHost::ControlHost;
-        bool ShowPopup(Menu& root) override { return (shown = &root) != nullptr; }
+        bool ShowPopup(Menu& root, Point at) override { return (where = at, shown = &root) != nullptr; }
         Menu* shown = nullptr;
+        Point where;
     };
     auto owned = std::make_unique<Host>(GalleryHost::make(u"Outer"));
     const Host& host = *owned;
@@ -78,6 +79,8 @@ TEST(PopUp, AHostThatShowsItInItsOwnWayHandsTheChoiceIn) {
     g.press({1400, 700}, input::RightButton); // on the embedded control
     ASSERT_NE(host.shown, nullptr);
     EXPECT_EQ(g.painted(), before);
+    EXPECT_EQ(host.where.x, 1400);
+    EXPECT_EQ(host.where.y, 700);
     EXPECT_TRUE(g.act(input::Act{*host.shown->items().front()}));
     g.key(u"Enter"); // is not the menu's
     EXPECT_EQ(g.heard(), (Heard{"Picked(11)", "PushClicked(1)"}));
@@ -223,6 +226,63 @@ TEST(Windows, AccessKeysAreThoseThatDoSomethingNow) {
     g.put(u"cmdPush0", u"Enabled", false);
     g.put(u"cmdPush1", u"Caption", u"So&rt");
     EXPECT_EQ(toUtf8(g->control().accessKeys()), "123R");
+}
+
+TEST(Windows, TheMenuKeyAsksBehindTheWidgetThatHasTheKeyboard) {
+    const GalleryHost g(u"Outer");
+    g.act(input::FocusOn{g[u"cmdPush1"]});
+    g.key(u"Menu");
+    EXPECT_EQ(g->control().lastPopup(), nullptr) << "the outer control has none";
+    g.act(input::FocusOn{g[u"smallOne.ssoPick2"]});
+    g.key(u"Menu");
+    ASSERT_NE(g->control().lastPopup(), nullptr) << "the embedded control's";
+    g.key(u"Down");
+    g.key(u"Enter");
+    EXPECT_EQ(g.heard(), Heard{"Picked(11)"});
+}
+
+TEST(Windows, TheWindowsButtonsAreThoseThatTheUserCouldPress) {
+    const GalleryHost g;
+    HostedControl& control = g->control();
+    g.put(u"cmdPush1", u"Default", true);
+    g.put(u"cmdPush2", u"Cancel", true);
+    EXPECT_EQ(control.defaultButton(), &g[u"cmdPush1"]);
+    EXPECT_EQ(control.cancelButton(), &g[u"cmdPush2"]);
+    const std::string heavy = g.painted();
+    g->setAmbient(u"DisplayAsDefault", false);
+    EXPECT_NE(g.painted(), heavy);
+    g.act(input::FocusOn{g[u"cmdPush1"]});
+    const std::string focused = g.painted();
+    g->setAmbient(u"DisplayAsDefault", true);
+    EXPECT_EQ(g.painted(), focused) << "Enter presses it whatever the window's is";
+    g.put(u"cmdPush1", u"Enabled", false);
+    EXPECT_EQ(control.defaultButton(), nullptr);
+}
+
+TEST(Windows, TheExtenderTellsItsHostAndKeepsTheUserOut) {
+    struct Host final : ControlHost {
+        using ControlHost::ControlHost;
+        void ExtenderChanged(Aspect aspect) override { heard.push_back(aspect); }
+        std::vector<Aspect> heard;
+    };
+    auto owned = std::make_unique<Host>(GalleryHost::make(u"WidgetGallery"));
+    Host& host = *owned;
+    const GalleryHost g(std::move(owned));
+    Extender& extender = g->extenderObject();
+    const std::string before = g.painted();
+    g.press(g.pointOf(u"spnCount", 0.5F, 0.25F));
+    extender.put_Enabled(false);
+    extender.put_Enabled(false);
+    EXPECT_FALSE(g.click(u"cmdPush0"));
+    EXPECT_NE(g.painted(), before) << "all of it is greyed";
+    EXPECT_TRUE(g.act(input::PointerLost{}) && !g[u"spnCount"].isPressed()) << "what is held is let go of";
+    extender.put_Enabled(true);
+    EXPECT_TRUE(g.click(u"cmdPush0"));
+    g.act(input::FocusOn{g[u"cmdPush1"]});
+    extender.put_Left(300);
+    extender.put_Visible(false);
+    EXPECT_TRUE(g.act(input::FocusOut{}));
+    EXPECT_EQ(host.heard, (std::vector{Aspect::Enabled, Aspect::Enabled, Aspect::Place, Aspect::Visible}));
 }
 
 TEST(Windows, TheHostHearsWhichWidgetChangedInWhichRespect) {

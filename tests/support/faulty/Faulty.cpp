@@ -140,6 +140,9 @@ public:
     Widget* focus() noexcept override { return inner_->focus(); }
     std::optional<std::chrono::milliseconds> clockWanted() noexcept override { return inner_->clockWanted(); }
     String accessKeys() noexcept override { return inner_->accessKeys(); }
+    Widget* defaultButton() noexcept override { return inner_->defaultButton(); }
+    Widget* cancelButton() noexcept override { return inner_->cancelButton(); }
+    bool ownsWidth() const noexcept override { return inner_->ownsWidth(); }
     Menu* lastPopup() noexcept override { return inner_->lastPopup(); }
 
 private:

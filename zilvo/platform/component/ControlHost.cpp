@@ -107,11 +107,6 @@ void ControlHost::HostExtender::put_Height(Single newHeight) {
     host_.resize(get_Width(), newHeight);
 }
 
-void ControlHost::HostExtender::put_Visible(bool newVisible) {
-    Extender::put_Visible(newVisible);
-    host_.ViewChanged();
-}
-
 Connection connect(Object& object, StringView eventName, EventSink& sink) {
     const EventDescription* event = object.description().findEvent(eventName);
     if (!event)

@@ -59,7 +59,10 @@ protected:
     void PropertyChanged(StringView name) override;
     void SizeChanged(Single width, Single height) override { extender_.record(width, height); }
     void Beep() override { ++beeps_; }
-    bool ShowPopup(Menu& /*root*/) override { return false; }
+    bool ShowPopup(Menu& /*root*/, Point /*at*/) override { return false; }
+    /// The control, or its host's code, has moved, shown, hidden, enabled or disabled it through its extender; a size
+    /// comes by SizeChanged.
+    virtual void ExtenderChanged(Aspect /*aspect*/) { ViewChanged(); }
     void ViewChanged() noexcept override { ++repaints_; }
 
 private:
@@ -69,13 +72,14 @@ private:
         explicit HostExtender(ControlHost& host) noexcept : host_(host) {}
         void put_Width(Single newWidth) override;
         void put_Height(Single newHeight) override;
-        void put_Visible(bool newVisible) override;
         void record(Single width, Single height) noexcept {
             place_.width = width;
             place_.height = height;
         }
 
     private:
+        void changed(Aspect aspect) override { host_.ExtenderChanged(aspect); }
+
         ControlHost& host_;
     };
     class FunctionSink;

@@ -9,6 +9,8 @@ constexpr std::array ambientMembers = {
     property<&StandardAmbient::get_Font, &StandardAmbient::put_Font>(-703, u"Font", u"newFont"),
     property<&StandardAmbient::get_ForeColor, &StandardAmbient::put_ForeColor>(-704, u"ForeColor", u"newForeColor"),
     property<&StandardAmbient::get_UserMode, &StandardAmbient::put_UserMode>(-709, u"UserMode", u"newUserMode"),
+    property<&StandardAmbient::get_DisplayAsDefault, &StandardAmbient::put_DisplayAsDefault>(-713, u"DisplayAsDefault",
+                                                                                             u"newDisplayAsDefault"),
 };
 static_assert(idsAndNamesAreUnique(ambientMembers));
 
@@ -18,6 +20,7 @@ constexpr std::array extenderMembers = {
     property<&Extender::get_Width, &Extender::put_Width>(3, u"Width", u"newWidth"),
     property<&Extender::get_Height, &Extender::put_Height>(4, u"Height", u"newHeight"),
     property<&Extender::get_Visible, &Extender::put_Visible>(5, u"Visible", u"newVisible"),
+    property<&Extender::get_Enabled, &Extender::put_Enabled>(6, u"Enabled", u"newEnabled"),
 };
 static_assert(idsAndNamesAreUnique(extenderMembers));
 

@@ -56,6 +56,12 @@ public:
     /// The letters that, typed with Alt, do something now, in Tab order; none when the host fails to tell whether the
     /// control is shown.
     virtual String accessKeys() noexcept = 0;
+    /// The push buttons that the window's Enter and Escape press while no other widget has a use for them, by Invoke;
+    /// null for none that the user could press. The control's own come before those of one embedded in it.
+    virtual Widget* defaultButton() noexcept = 0;
+    virtual Widget* cancelButton() noexcept = 0;
+    /// Whether the control gives itself its width, whatever its host would have.
+    virtual bool ownsWidth() const noexcept = 0;
     /// The root of the menu that was last popped up; null for none.
     virtual Menu* lastPopup() noexcept = 0;
 

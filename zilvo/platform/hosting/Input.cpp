@@ -21,7 +21,7 @@ constexpr std::array<Named<Integer>, 4> modifiers = {{
     {u"Alt+", input::AltMask},
 }};
 
-constexpr std::array<Named<input::Key>, 10> keys = {{
+constexpr std::array<Named<input::Key>, 11> keys = {{
     {u"Tab", input::Key::Tab},
     {u"Enter", input::Key::Enter},
     {u"Return", input::Key::Enter},
@@ -32,6 +32,7 @@ constexpr std::array<Named<input::Key>, 10> keys = {{
     {u"Down", input::Key::Down},
     {u"Left", input::Key::Left},
     {u"Right", input::Key::Right},
+    {u"Menu", input::Key::Menu},
 }};
 
 } // namespace

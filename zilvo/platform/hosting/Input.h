@@ -56,7 +56,8 @@ struct KeyTyped {
     Integer keyAscii;
 };
 
-enum class Key : std::uint8_t { Character, Tab, Enter, Escape, Space, Up, Down, Left, Right };
+/// Menu is the key, or Shift+F10, that asks for the menu of what has the keyboard.
+enum class Key : std::uint8_t { Character, Tab, Enter, Escape, Space, Up, Down, Left, Right, Menu };
 
 /// A key that goes down. Enter, Escape, Space and characters go on as typed characters, but not with Ctrl or Alt.
 struct KeyDown {

@@ -75,7 +75,10 @@ private:
 } // namespace
 
 bool InputRouter::route(const InputEvent& event) {
-    if (!root_.acceptsInput()) return false;
+    // What is only let go of is let go of also when the host has hidden the control meanwhile.
+    const bool letsGo =
+        std::holds_alternative<input::PointerLost>(event) || std::holds_alternative<input::FocusOut>(event);
+    if (!letsGo && !root_.acceptsInput()) return false;
     if (handles_ && std::holds_alternative<input::TimePassed>(event)) return false;
     const Handling handling(handles_);
     const bool acted = std::visit([this](const auto& given) { return on(given); }, event);
@@ -195,6 +198,8 @@ bool InputRouter::on(const input::KeyDown& event) {
     case Key::Character:
         if (types) return on(input::KeyTyped{static_cast<Integer>(event.character)});
         return alt && accessKey(event.character);
+    case Key::Menu:
+        return menuKey(event.shift);
     default:
         return arrow(event.key);
     }
@@ -339,6 +344,18 @@ String InputRouter::accessKeys() const {
     return letters;
 }
 
+Widget* InputRouter::windowButton(CommandButton* Surface::*button) const {
+    const auto find = [&](const auto& self, const Surface& surface) -> Widget* {
+        if (CommandButton* own = surface.*button; own && own->acceptsInput()) return own;
+        for (Widget& widget : surface) {
+            const Surface* inner = widget.embeddedSurface();
+            if (Widget* found = inner ? self(self, *inner) : nullptr) return found;
+        }
+        return nullptr;
+    };
+    return find(find, root_);
+}
+
 bool InputRouter::accessKey(char16_t letter) {
     const char16_t wanted = accessKeyOf(String{u'&', letter});
     auto order = tabOrderOf(root_);
@@ -351,6 +368,21 @@ bool InputRouter::accessKey(char16_t letter) {
         return click(widget);
     }
     return false;
+}
+
+/// As the right button would at the widget that has the keyboard, were it not there: what lies behind it is asked.
+bool InputRouter::menuKey(Integer shift) {
+    const Widget* focused = focus();
+    const Point origin = focused ? originOf(root_, *focused) : Point();
+    pointer_ = focused ? Point{origin.x, origin.y + focused->bounds().height} : Point{};
+    for (Widget* at = focused ? focused->parent() : nullptr; at; at = at->parent()) {
+        if (!at->isClickable() || !at->acceptsInput()) continue;
+        at->pointerDown(input::RightButton, shift, {});
+        return true;
+    }
+    Surface& surface = focused ? focused->surface() : root_;
+    surface.surfaceMouseDown(input::RightButton, shift, {});
+    return true;
 }
 
 bool InputRouter::arrow(input::Key key) {

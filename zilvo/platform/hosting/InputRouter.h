@@ -22,6 +22,10 @@ public:
     std::optional<std::chrono::milliseconds> clockWanted() const;
     /// The letters that, typed with Alt, do something now, in Tab order.
     String accessKeys() const;
+    /// The first surface's, from the root inwards, that the user could press; null for none.
+    Widget* windowButton(CommandButton* Surface::*button) const;
+    /// Where the pointer was last.
+    Point pointer() const noexcept { return pointer_; }
 
     /// The pop-up takes the pointer: what is held down is let go of without a click.
     void showPopup(Menu& root);
@@ -48,6 +52,7 @@ private:
     void advanceFocus(bool forward);
     bool accessKey(char16_t letter);
     bool arrow(input::Key key);
+    bool menuKey(Integer shift);
     bool click(Widget* widget);
     bool choose(Menu* item);
     bool chooseNow(Menu& item, input::Action action);

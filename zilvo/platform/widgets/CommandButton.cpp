@@ -63,7 +63,7 @@ const ClassDescription& CommandButton::description() const noexcept {
 void CommandButton::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
     // A push button that has the keyboard takes the heavy frame from the default one: Enter presses it.
-    const bool framed = isFocused() || (get_Default() && !anyHasFocus(surface()));
+    const bool framed = isFocused() || (get_Default() && !anyHasFocus(surface()) && surface().displaysDefault());
     const Rectangle face = look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), framed);
     Rectangle inner = area.inset(4 * TwipsPerPixel);
     if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};

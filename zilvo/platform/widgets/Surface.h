@@ -58,6 +58,10 @@ public:
     virtual void letGo() noexcept = 0;
     /// Whether the user can reach the surface at all. Fails as the host does.
     virtual bool acceptsInput() const = 0;
+    /// Whether the control as a whole is drawn as one that takes input. Fails as the host does.
+    virtual bool isEnabled() const { return true; }
+    /// Whether the control's default button is the window's now. Fails as the host does.
+    virtual bool displaysDefault() const { return true; }
     virtual void viewChanged() noexcept = 0;
     /// One of its widgets, or of those of a control embedded in it, has changed in that respect.
     virtual void widgetChanged(const Widget& widget, Aspect aspect) noexcept = 0;
