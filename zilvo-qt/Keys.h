@@ -1,0 +1,15 @@
+#pragma once
+
+#include "zilvo/platform/hosting/Input.h"
+
+#include <QKeyEvent>
+
+namespace zilvo::qt {
+
+/// Nothing for a button that controls do not know.
+std::optional<platform::Integer> buttonOf(Qt::MouseButton button);
+platform::Integer shiftOf(Qt::KeyboardModifiers modifiers);
+/// Nothing for a key that is none of a control's.
+std::optional<platform::input::KeyDown> keyOf(const QKeyEvent& event);
+
+} // namespace zilvo::qt

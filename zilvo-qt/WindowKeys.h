@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class QKeyEvent;
+class QWidget;
+
+namespace zilvo::qt {
+
+class ControlWidget;
+
+/// The keys that are a window's affair, for all controls on it: Enter and Escape that nobody else has a use for press
+/// their default and cancel buttons, and letters with Alt go to whatever answers to them now, in turn where several
+/// do. A dialog's own default button comes before the controls'; a button that has the keyboard before all. One per
+/// window, which owns it.
+class WindowKeys final : public QObject {
+    Q_OBJECT
+
+public:
+    static WindowKeys& of(QWidget& window);
+
+    /// Something that Enter depends on has changed: soon the control whose default button is the window's now, and no
+    /// other, draws the heavy frame.
+    void updateDefault();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit WindowKeys(QWidget& window);
+
+    ControlWidget* defaultControl() const;
+    ControlWidget* cancelControl() const;
+    bool accessKey(char16_t letter);
+    void markDefault();
+
+    QWidget& window_;
+    bool marksSoon_ = false;
+};
+
+} // namespace zilvo::qt
