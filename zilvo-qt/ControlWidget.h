@@ -52,6 +52,9 @@ public:
     bool userMode() const;
     void setUserMode(bool userMode);
 
+    /// Whether a default button of the control is drawn as the window's.
+    bool displaysDefault() const;
+
     /// The size that the control has given itself, designed or since.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -109,7 +112,6 @@ private:
     std::unique_ptr<Host> instance(const QVariantMap* settings, std::optional<QSize> size);
     void listen(Host& host, const platform::EventDescription& event);
     void setAmbient(platform::StringView name, const platform::Variant& value);
-    bool displaysDefault() const;
 
     // What the control tells its site.
     void controlSized();

@@ -7,7 +7,10 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
+#include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
 #include <algorithm>
 
 namespace zilvo::qt {
@@ -50,14 +53,17 @@ WindowKeys::WindowKeys(QWidget& window) : QObject(&window), window_(window) {
 }
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
-    // A key comes to the window itself only when nothing on it has used it.
-    if (watched != &window_ || event->type() != QEvent::KeyPress) return false;
+    const bool asksFirst = event->type() == QEvent::ShortcutOverride;
+    if (watched != &window_ || (!asksFirst && event->type() != QEvent::KeyPress)) return false;
     const auto key = keyOf(*static_cast<QKeyEvent*>(event));
     if (!key) return false;
-    if (key->key == input::Key::Character && key->shift == input::AltMask) return accessKey(key->character);
-    if (key->shift != 0) return false;
+    if (asksFirst) {
+        if (key->key == input::Key::Character && key->shift == input::AltMask) takeLetter(*key);
+        return false;
+    }
+    // A key comes to the window itself only when nothing on it has used it.
+    if (key->shift != 0 || (key->key != input::Key::Enter && key->key != input::Key::Escape)) return false;
     const bool enter = key->key == input::Key::Enter;
-    if (!enter && key->key != input::Key::Escape) return false;
     ControlWidget* control = enter ? defaultControl() : cancelControl();
     if (!control) return false;
     Widget* button = enter ? control->control().defaultButton() : control->control().cancelButton();
@@ -81,20 +87,30 @@ ControlWidget* WindowKeys::cancelControl() const {
     return first(reachable(window_), [](const ControlWidget* control) { return control->control().cancelButton(); });
 }
 
-bool WindowKeys::accessKey(char16_t letter) {
+ControlWidget* WindowKeys::answering(char16_t letter) const {
     const char16_t wanted = accessKeyOf(String{u'&', letter});
     auto controls = reachable(window_);
     // Those behind the one with the keyboard come first, so that a shared letter goes round.
     if (!controls.empty() && controls.front() == window_.focusWidget())
         std::rotate(controls.begin(), controls.begin() + 1, controls.end());
-    ControlWidget* control = first(controls, [&](const ControlWidget* each) {
+    return first(controls, [&](const ControlWidget* each) {
         return wanted && each->control().accessKeys().find(wanted) != String::npos;
     });
-    if (!control) return false;
-    const QPointer<ControlWidget> alive(control);
-    control->setFocus(Qt::ShortcutFocusReason);
-    if (alive) control->input(input::KeyDown{input::Key::Character, letter, input::AltMask});
-    return true;
+}
+
+void WindowKeys::takeLetter(const input::KeyDown& key) {
+    QShortcut*& shortcut = letters_[key.character];
+    if (!shortcut) {
+        shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(key.character)), &window_);
+        const auto act = [this, key] {
+            const QPointer<ControlWidget> control(answering(key.character));
+            if (control) control->setFocus(Qt::ShortcutFocusReason);
+            if (control) control->input(key);
+        };
+        connect(shortcut, &QShortcut::activated, this, act);
+        connect(shortcut, &QShortcut::activatedAmbiguously, this, act); // another's turn may be next
+    }
+    shortcut->setEnabled(answering(key.character) != nullptr);
 }
 
 void WindowKeys::updateDefault() {

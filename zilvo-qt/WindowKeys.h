@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QObject>
-#include <QPointer>
+#include "zilvo/platform/hosting/Input.h"
 
-class QKeyEvent;
+#include <QObject>
+#include <map>
+
+class QShortcut;
 class QWidget;
 
 namespace zilvo::qt {
@@ -32,10 +34,14 @@ private:
 
     ControlWidget* defaultControl() const;
     ControlWidget* cancelControl() const;
-    bool accessKey(char16_t letter);
+    /// The one whose turn it is among those that answer to the letter now; null for none.
+    ControlWidget* answering(char16_t letter) const;
+    /// Has the letter taken as a shortcut, before an editor types it, as long as a control answers to it.
+    void takeLetter(const platform::input::KeyDown& key);
     void markDefault();
 
     QWidget& window_;
+    std::map<char16_t, QShortcut*> letters_; ///< taken with Alt so far; children of the window
     bool marksSoon_ = false;
 };
 

@@ -1,0 +1,9 @@
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // nobody's screen is needed
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
