@@ -137,7 +137,7 @@ private:
         const Widget* at = in_.ConsumeBool() ? anyWidget() : nullptr;
         if (!at) return in_.point();
         Point point{at->bounds().width / 2, at->bounds().height / 2};
-        for (; at; at = at->parent() ? at->parent() : at->surface().embeddingWidget())
+        for (; at; at = at->outer())
             point = {point.x + at->bounds().left, point.y + at->bounds().top};
         return point;
     }

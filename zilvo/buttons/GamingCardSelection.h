@@ -40,13 +40,13 @@ private:
     void GamingCardButtons_Click(Integer& Index, Integer& Value);
 
     // clang-format off
-    static SSCheck::Design closeBox(Integer Index, Single Left, Integer TabIndex) {
+    static SSCheck::Design closeBox(Integer Index, Single Left, Integer TabIndex, const char16_t* Spoken) {
         return {.Name = u"chkXButton", .Index = Index, .Left = Left, .Top = 15, .Width = 195, .Height = 195,
-                .TabIndex = TabIndex, .ZOrder = 1};
+                .TabIndex = TabIndex, .Spoken = Spoken, .ZOrder = 1};
     }
     ControlArray<SSCheck, 2> chkXButton{userControl, {
-        closeBox(1,   15, 5),
-        closeBox(0, 1935, 4)},
+        closeBox(1,   15, 5, u"Close, on the left"),
+        closeBox(0, 1935, 4, u"Close, on the right")},
         calls<&GamingCardSelection::chkXButton_Click>(this)};
 
     CommandButton cmdLoadCards{userControl, {
@@ -59,15 +59,16 @@ private:
         .Name = u"SSPanel1", .Left = 105, .Top = 0, .Width = 1950, .Height = 735,
         .BackColor = {0x00A8B090}, .TabIndex = 0}};
 
-    static SSRibbon::Design cardButton(Integer Index, Single Left, const Bitmap& Up, const Bitmap& Down) {
+    static SSRibbon::Design cardButton(Integer Index, Single Left, const Bitmap& Up, const Bitmap& Down,
+                                      const char16_t* Spoken) {
         return {.Name = u"GamingCardButtons", .Index = Index, .Left = Left, .Top = 120, .Width = 510, .Height = 510,
-                .PictureUp = &Up, .PictureDown = &Down, .BackColor = {0x00A8B090}, .TabIndex = Index};
+                .PictureUp = &Up, .PictureDown = &Down, .BackColor = {0x00A8B090}, .TabIndex = Index, .Spoken = Spoken};
     }
     /// The indexes are the destinations.
     ControlArray<SSRibbon, 3> GamingCardButtons{SSPanel1, {
-        cardButton(1,  120, discardTrayPicture(Ground::White), discardTrayPicture(Ground::Yellow)),
-        cardButton(2,  720, tablePicture(Ground::White), tablePicture(Ground::Yellow)),
-        cardButton(3, 1320, shoePicture(Ground::White), shoePicture(Ground::Yellow))},
+        cardButton(1,  120, discardTrayPicture(Ground::White), discardTrayPicture(Ground::Yellow), u"Discard tray"),
+        cardButton(2,  720, tablePicture(Ground::White), tablePicture(Ground::Yellow), u"Table"),
+        cardButton(3, 1320, shoePicture(Ground::White), shoePicture(Ground::Yellow), u"Shoe")},
         calls<&GamingCardSelection::GamingCardButtons_Click>(this)};
     // clang-format on
 };

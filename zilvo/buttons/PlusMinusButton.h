@@ -35,9 +35,11 @@ private:
     /// The indexes are the modes; the pictures lie one over the other.
     ControlArray<Image, 2> ImagePlusMinus{userControl, {
         {.Name = u"ImagePlusMinus", .Index = 2, .Left = 0, .Top = 0, .Width = 450, .Height = 450,
-         .Picture = &plusPicture(), .ToolTipText = u"Click here for SUBTRACT-mode"},
+         .Picture = &plusPicture(), .ToolTipText = u"Click here for SUBTRACT-mode",
+         .Spoken = u"Plus"},
         {.Name = u"ImagePlusMinus", .Index = 3, .Left = 0, .Top = 0, .Width = 450, .Height = 450,
-         .Picture = &minusPicture(), .Visible = false, .ToolTipText = u"Click here for ADD-mode"}},
+         .Picture = &minusPicture(), .Visible = false, .ToolTipText = u"Click here for ADD-mode",
+         .Spoken = u"Minus"}},
         calls<&PlusMinusButton::ImagePlusMinus_Click>(this)};
     // clang-format on
 };

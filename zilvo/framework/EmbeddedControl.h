@@ -47,6 +47,7 @@ public:
     void Put(StringView memberName, const Variant& value) { platform::put(*inner_, memberName, value); }
 
     const ClassDescription& description() const noexcept override { return description_; }
+    Role role() const noexcept override { return Role::None; }
     Surface* embeddedSurface() noexcept override { return &control().surface(); }
     Described* embeddedMembers() noexcept override { return inner_.get(); }
     void ambientChanged(StringView name) override;
@@ -70,7 +71,7 @@ private:
     }
     void Beep() override;
     bool ShowPopup(Menu& root, Point at) override;
-    const Widget* embeddingWidget() const noexcept override { return this; }
+    Widget* embeddingWidget() noexcept override { return this; }
 
     // EventSink
     void Event(Long number, std::span<Variant> arguments) override;

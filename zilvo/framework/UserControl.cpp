@@ -188,7 +188,7 @@ void UserControl::widgetChanged(const Widget& widget, Aspect aspect) noexcept {
     if (site_) site_->WidgetChanged(widget, aspect);
 }
 
-const Widget* UserControl::embeddingWidget() const noexcept {
+Widget* UserControl::embeddingWidget() const noexcept {
     return site_ ? site_->embeddingWidget() : nullptr;
 }
 

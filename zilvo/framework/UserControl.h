@@ -63,7 +63,7 @@ public:
     void viewChanged() noexcept override;
     void widgetChanged(const Widget& widget, Aspect aspect) noexcept override;
     bool leaveFocus(bool forward) override;
-    const Widget* embeddingWidget() const noexcept override;
+    Widget* embeddingWidget() const noexcept override;
     void surfaceMouseDown(Integer button, Integer shift, Point at) override;
     bool surfaceKeyPress(Integer& keyAscii) override;
 

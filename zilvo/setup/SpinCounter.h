@@ -82,7 +82,8 @@ private:
         .Font = {.Name = u"Comic Sans MS", .Size = 9.75F, .Weight = 700, .Italic = true}, .TabIndex = 1}};
 
     platform::SpinButton SpinButton{userControl, {
-        .Name = u"SpinButton", .Left = 991, .Top = 0, .Width = 495, .Height = 345, .TabIndex = 0},
+        .Name = u"SpinButton", .Left = 991, .Top = 0, .Width = 495, .Height = 345, .TabIndex = 0,
+        .Spoken = u"Cards in stack"},
         calls<&SpinCounter::SpinButton_SpinUp>(this), calls<&SpinCounter::SpinButton_SpinDown>(this)};
     // clang-format on
 };

@@ -109,7 +109,7 @@ public:
     virtual bool LeaveFocus(bool /*forward*/) { return false; }
 
     /// For a control that another control embeds: the child widget that it is there. A host's own controls have none.
-    virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
+    virtual Widget* embeddingWidget() noexcept { return nullptr; }
 
 protected:
     ~ControlSite() = default;

@@ -15,13 +15,7 @@ constexpr Integer Space = 32;
 
 /// The widgets that can have the keyboard, embedded controls included, in Tab order.
 void collectTabOrder(const Surface& surface, std::vector<Widget*>& order) {
-    std::vector<Widget*> widgets;
-    for (Widget& widget : surface)
-        if (widget.isPlaced()) widgets.push_back(&widget);
-    std::stable_sort(widgets.begin(), widgets.end(), [](const Widget* one, const Widget* other) {
-        return one->get_TabIndex() < other->get_TabIndex();
-    });
-    for (Widget* widget : widgets) {
+    for (Widget* widget : surface.inTabOrder()) {
         if (const Surface* inner = widget->embeddedSurface())
             collectTabOrder(*inner, order);
         else if (widget->acceptsInput())
@@ -35,15 +29,11 @@ std::vector<Widget*> tabOrderOf(const Surface& root) {
     return order;
 }
 
-/// The widget's corner on the root surface.
-Point originOf(const Surface& root, const Widget& widget) {
+/// The widget's corner on the surface that the host drives.
+Point originOf(const Widget& widget) {
     Point origin;
-    for (const Widget* at = &widget; at;) {
-        origin.x += at->bounds().left;
-        origin.y += at->bounds().top;
-        const Widget* outer = at->parent();
-        at = outer || &at->surface() == &root ? outer : at->surface().embeddingWidget();
-    }
+    for (const Widget* at = &widget; at; at = at->outer())
+        origin = {origin.x + at->bounds().left, origin.y + at->bounds().top};
     return origin;
 }
 
@@ -248,7 +238,7 @@ bool InputRouter::chooseNow(Menu& item, input::Action action) {
 
 /// A press and a release at a point of the widget, when that is where the pointer would meet it.
 bool InputRouter::press(Widget& widget, Point at) {
-    const Point origin = originOf(root_, widget);
+    const Point origin = originOf(widget);
     const Point point{origin.x + at.x, origin.y + at.y};
     if (root_.hitTest(point).widget != &widget) return false;
     popup_.close();
@@ -373,7 +363,7 @@ bool InputRouter::accessKey(char16_t letter) {
 /// As the right button would at the widget that has the keyboard, were it not there: what lies behind it is asked.
 bool InputRouter::menuKey(Integer shift) {
     const Widget* focused = focus();
-    const Point origin = focused ? originOf(root_, *focused) : Point();
+    const Point origin = focused ? originOf(*focused) : Point();
     pointer_ = focused ? Point{origin.x, origin.y + focused->bounds().height} : Point{};
     for (Widget* at = focused ? focused->parent() : nullptr; at; at = at->parent()) {
         if (!at->isClickable() || !at->acceptsInput()) continue;

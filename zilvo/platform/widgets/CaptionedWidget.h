@@ -31,6 +31,8 @@ public:
     const FontRef& get_Font() { return font_.object(); }
     void put_Font(FontRef newFont) { font_.share(std::move(newFont)); }
 
+    StringView shownText() const noexcept override { return caption(); }
+
 protected:
     CaptionedWidget(Container& container, const Placement& place, const Appearance& appearance);
 

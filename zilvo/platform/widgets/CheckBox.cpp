@@ -32,6 +32,12 @@ const ClassDescription& CheckBox::description() const noexcept {
     return description;
 }
 
+std::optional<platform::Checked> CheckBox::checked() const noexcept {
+    return value_ == Checked  ? platform::Checked::Yes
+           : value_ == Greyed ? platform::Checked::Mixed
+                              : platform::Checked::No;
+}
+
 void CheckBox::paint(Painter& painter) const {
     paintGround(painter);
     const auto state = value_ == Checked  ? look::CheckState::Ticked

@@ -40,6 +40,8 @@ public:
     }
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::CheckBox; }
+    std::optional<platform::Checked> checked() const noexcept override;
     void userClick() override { put_Value(value_ == Unchecked ? Checked : Unchecked); }
     void paint(Painter& painter) const override;
 

@@ -34,6 +34,7 @@ public:
     void put_Cancel(bool newCancel);
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::PushButton; }
     bool takesFocus() const noexcept override { return true; }
     char16_t accessKey() const noexcept override { return accessKeyOf(caption()); }
     bool isClickable() const noexcept override { return true; }

@@ -16,6 +16,7 @@ public:
         bool Enabled = true;
         bool Visible = true;
         const char16_t* ToolTipText = u"";
+        const char16_t* Spoken = u"";
         Integer ZOrder = 0;
     };
     using ClickHandler = Delegate<Integer&>;
@@ -23,6 +24,7 @@ public:
     Image(Container& container, const Design& design, ClickHandler click = {});
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return click_ ? Role::PictureButton : Role::Picture; }
     bool isClickable() const noexcept override { return true; }
     void userClick() override;
     void paint(Painter& painter) const override;

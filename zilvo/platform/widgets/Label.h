@@ -29,7 +29,11 @@ public:
 
     Label(Container& container, const Design& design);
 
+    /// Sunken like a field of a form, it shows a value.
+    bool isField() const noexcept { return sunken_; }
+
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::Label; }
     void paint(Painter& painter) const override;
     Rectangle paintedBounds() const noexcept override { return Widget::paintedBounds().inset(-reach_); }
 

@@ -56,6 +56,16 @@ void Menu::userClick() {
     click_(index);
 }
 
+Role Menu::role() const noexcept {
+    if (isSeparator()) return Role::Separator;
+    return !parent_ || opensSubmenu() ? Role::Menu : Role::MenuItem;
+}
+
+std::optional<Checked> Menu::checked() const noexcept {
+    if (!checked_) return std::nullopt;
+    return Checked::Yes;
+}
+
 const ClassDescription& Menu::description() const noexcept {
     static constexpr ClassDescription description{.name = u"Menu", .members = members, .base = &commonMembers};
     return description;

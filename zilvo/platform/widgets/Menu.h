@@ -37,6 +37,10 @@ public:
     std::vector<Menu*> items() const;
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override;
+    StringView shownText() const noexcept override { return caption_.view(); }
+    /// Only a ticked item says so: which others may be ticked is not known.
+    std::optional<Checked> checked() const noexcept override;
     Menu* parent() const noexcept override { return parent_; }
     bool isPlaced() const noexcept override { return false; }
     char16_t accessKey() const noexcept override { return accessKeyOf(caption_.view()); }

@@ -21,6 +21,7 @@ public:
         bool Visible = true;
         Integer TabIndex = 0;
         const char16_t* ToolTipText = u"";
+        const char16_t* Spoken = u"";
         Integer ZOrder = 0;
     };
     using ClickHandler = Delegate<Integer&, Integer&>;
@@ -31,6 +32,8 @@ public:
     void put_Value(bool newValue);
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::CheckBox; }
+    std::optional<Checked> checked() const noexcept override { return get_Value() ? Checked::Yes : Checked::No; }
     void userClick() override;
     void paint(Painter& painter) const override;
 

@@ -29,6 +29,7 @@ public:
     ScaleMode childScale() const noexcept override { return ScaleMode::Twips; }
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::Group; }
     void paint(Painter& painter) const override;
 
 private:

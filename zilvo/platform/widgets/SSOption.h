@@ -33,6 +33,8 @@ public:
     void put_Value(bool newValue);
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::RadioButton; }
+    std::optional<Checked> checked() const noexcept override { return get_Value() ? Checked::Yes : Checked::No; }
     bool isTabStop() const override;
     void userClick() override;
     bool isInGroupWith(const Widget& other) const noexcept override;

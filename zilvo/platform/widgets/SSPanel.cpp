@@ -1,6 +1,7 @@
 #include "zilvo/platform/widgets/SSPanel.h"
 
 #include "zilvo/platform/widgets/Look.h"
+#include "zilvo/platform/widgets/Surface.h"
 
 namespace zilvo::platform {
 
@@ -11,6 +12,14 @@ SSPanel::SSPanel(Container& container, const Design& design, MouseDownHandler mo
 
 void SSPanel::pointerDown(Integer button, Integer shift, Point at) {
     mouseDown_(button, shift, at.x, at.y);
+}
+
+StringView SSPanel::shownText() const noexcept {
+    const Point middle{bounds().width / 2, bounds().height / 2};
+    if (captionDown_ == Alignment::Centre)
+        for (const Widget& child : Widget::surface())
+            if (child.parent() == this && child.get_Visible() && child.bounds().contains(middle)) return {};
+    return caption();
 }
 
 const ClassDescription& SSPanel::description() const noexcept {

@@ -34,6 +34,9 @@ public:
     ScaleMode childScale() const noexcept override { return ScaleMode::Twips; }
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::Group; }
+    /// A caption in the middle is not seen where a child lies over it.
+    StringView shownText() const noexcept override;
     bool isClickable() const noexcept override { return static_cast<bool>(mouseDown_); }
     void pointerDown(Integer button, Integer shift, Point at) override;
     void paint(Painter& painter) const override;

@@ -23,6 +23,7 @@ public:
         bool Visible = true;
         Integer TabIndex = 0;
         const char16_t* ToolTipText = u"";
+        const char16_t* Spoken = u"";
         Integer ZOrder = 0;
     };
     using ClickHandler = Delegate<Integer&, Integer&>;
@@ -39,6 +40,8 @@ public:
     void put_BackColor(Colour newBackColor);
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::ToggleButton; }
+    std::optional<Checked> checked() const noexcept override { return get_Value() ? Checked::Yes : Checked::No; }
     bool takesFocus() const noexcept override { return true; }
     bool isClickable() const noexcept override { return true; }
     void userClick() override;

@@ -34,6 +34,7 @@ public:
     Colour get_BackColor() const noexcept { return backColor_; }
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::None; }
     bool isHit() const noexcept override { return false; }
     void paint(Painter& painter) const override;
 

@@ -17,6 +17,7 @@ public:
         bool Visible = true;
         Integer TabIndex = 0;
         const char16_t* ToolTipText = u"";
+        const char16_t* Spoken = u"";
         Integer ZOrder = 0;
     };
     using SpinHandler = Delegate<>;
@@ -32,6 +33,7 @@ public:
     Rectangle half(Spin way) const noexcept;
 
     const ClassDescription& description() const noexcept override;
+    Role role() const noexcept override { return Role::SpinButton; }
     bool takesFocus() const noexcept override { return true; }
     void pointerDown(Integer button, Integer shift, Point at) override;
     void pointerUp() override;

@@ -1,7 +1,6 @@
 #include "zilvo/platform/widgets/Surface.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace zilvo::platform {
 
@@ -14,6 +13,16 @@ Widget* Surface::find(StringView name, Integer index) const noexcept {
     for (Widget& widget : *this)
         if (widget.index() == index && sameName(widget.name(), name)) return &widget;
     return nullptr;
+}
+
+std::vector<Widget*> Surface::inTabOrder() const {
+    std::vector<Widget*> widgets;
+    for (Widget& widget : *this)
+        if (widget.isPlaced()) widgets.push_back(&widget);
+    std::stable_sort(widgets.begin(), widgets.end(), [](const Widget* one, const Widget* other) {
+        return one->get_TabIndex() < other->get_TabIndex();
+    });
+    return widgets;
 }
 
 namespace {

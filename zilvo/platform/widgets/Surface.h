@@ -3,6 +3,7 @@
 #include "zilvo/platform/widgets/Widget.h"
 
 #include <iterator>
+#include <vector>
 
 namespace zilvo::platform {
 
@@ -49,6 +50,9 @@ public:
     /// there is none.
     Widget* find(StringView name, Integer index = NoIndex) const noexcept;
 
+    /// Those that are laid out on it, by tab index, then in the order of creation.
+    std::vector<Widget*> inTabOrder() const;
+
     /// Twips.
     virtual Rectangle area() const noexcept = 0;
     virtual Colour backColor() const noexcept = 0;
@@ -68,7 +72,7 @@ public:
     /// Tab goes past the last widget, or back past the first: true when the host takes the keyboard on.
     virtual bool leaveFocus(bool /*forward*/) { return false; }
     /// The widget that embeds the surface's control in another control; null for a control that a host drives.
-    virtual const Widget* embeddingWidget() const noexcept { return nullptr; }
+    virtual Widget* embeddingWidget() const noexcept { return nullptr; }
 
     /// The control's own handlers, for the input router. A pointer press where no widget is; `at` in twips.
     virtual void surfaceMouseDown(Integer button, Integer shift, Point at) = 0;

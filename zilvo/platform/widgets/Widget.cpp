@@ -29,6 +29,7 @@ const ClassDescription Widget::commonMembers{.name = u"Widget", .members = membe
 Widget::Widget(Container& container, const Placement& place)
     : container_(container),
       name_(place.name),
+      spoken_(place.spoken),
       bounds_(place.bounds),
       toolTipText_(place.toolTipText),
       index_(place.index),
@@ -47,6 +48,11 @@ std::string shownName(const Widget& widget) {
 
 std::string describe(const Widget& widget, const char* member) {
     return shownName(widget) + "." + member;
+}
+
+Widget* Widget::outer() const noexcept {
+    Widget* within = parent();
+    return within ? within : surface().embeddingWidget();
 }
 
 Integer Widget::get_Index() const {

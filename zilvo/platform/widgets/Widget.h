@@ -39,12 +39,13 @@ struct Placement {
     Integer zOrder;
     bool enabled;
     bool visible;
+    const char16_t* spoken; ///< what it is called aloud where it shows no text
 };
 
 /// Reads the placement off a kind's design table; what the kind's table does not have gets its usual value.
 template <class Design>
 constexpr Placement placementOf(const Design& design) noexcept {
-    Placement place{design.Name, NoIndex, {}, 0, u"", 0, true, true};
+    Placement place{design.Name, NoIndex, {}, 0, u"", 0, true, true, u""};
     if constexpr (requires { design.Index; }) place.index = design.Index;
     if constexpr (requires { design.Left; }) place.bounds = {design.Left, design.Top, design.Width, design.Height};
     if constexpr (requires { design.TabIndex; }) place.tabIndex = design.TabIndex;
@@ -52,6 +53,7 @@ constexpr Placement placementOf(const Design& design) noexcept {
     if constexpr (requires { design.ZOrder; }) place.zOrder = design.ZOrder;
     if constexpr (requires { design.Enabled; }) place.enabled = design.Enabled;
     if constexpr (requires { design.Visible; }) place.visible = design.Visible;
+    if constexpr (requires { design.Spoken; }) place.spoken = design.Spoken;
     return place;
 }
 
@@ -82,6 +84,26 @@ enum class Direction : std::uint8_t { Up, Down, Left, Right };
 /// In which respect a widget has changed; Look is any other that is seen.
 enum class Aspect : std::uint8_t { Value, Caption, Enabled, Visible, Place, Focus, Pressed, ToolTip, Default, Look };
 
+/// What kind of thing a widget is to those who do not see it. None is what only decorates, or only holds others.
+enum class Role : std::uint8_t {
+    None,
+    Label,
+    Picture,
+    PushButton,
+    PictureButton, ///< a picture that is clicked
+    ToggleButton,  ///< latches
+    CheckBox,
+    RadioButton,
+    SpinButton,
+    Group,
+    Menu,
+    MenuItem,
+    Separator
+};
+
+/// Whether what can be ticked, selected or latched is.
+enum class Checked : std::uint8_t { No, Yes, Mixed };
+
 /// What all kinds of child widget share: a name, a place, whether it is shown and takes input. A widget lives
 /// exactly as long as its control; the surface is not used while its widgets are destroyed.
 class Widget : public Described {
@@ -98,6 +120,8 @@ public:
     Surface& surface() const noexcept { return container_.surface(); }
     /// The widget that this one belongs to: its container, a menu's parent menu; null directly on the surface.
     virtual Widget* parent() const noexcept { return container_.asWidget(); }
+    /// Its parent or, on the surface of an embedded control, the widget that embeds it; null on the host's own surface.
+    Widget* outer() const noexcept;
     /// The surface of the control that this widget embeds; null for all other kinds.
     virtual Surface* embeddedSurface() noexcept { return nullptr; }
     /// The embedded control's own members; null for all other kinds.
@@ -140,6 +164,16 @@ public:
     void bringToFront() noexcept;
     Integer get_TabIndex() const noexcept { return tabIndex_; }
     void put_TabIndex(Integer newTabIndex);
+
+    // For those who do not see it.
+
+    virtual Role role() const noexcept = 0;
+    /// The text that can be seen on it, as designed: "&" before a letter makes it the access key. Empty for none.
+    virtual StringView shownText() const noexcept { return {}; }
+    /// What its control calls it where it shows no text; empty when the control does not say.
+    StringView spokenText() const noexcept { return spoken_; }
+    /// Nothing for what cannot be checked.
+    virtual std::optional<Checked> checked() const noexcept { return std::nullopt; }
 
     // Input, for the input router only.
 
@@ -206,6 +240,7 @@ private:
     Container& container_;
     Widget* nextOnSurface_ = nullptr;
     const char16_t* name_;
+    const char16_t* spoken_;
     Rectangle bounds_;
     Text toolTipText_;
     Integer index_;
