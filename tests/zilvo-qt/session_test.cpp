@@ -1,0 +1,183 @@
+#include "tests/zilvo-qt/Form.h"
+
+#include "zilvo/platform/painting/SvgPainter.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QProcess>
+#include <QScreen>
+
+/// With a display, a window manager and a pointer and keyboard that are no test's own: xdotool moves them.
+namespace zilvo::qt {
+namespace {
+
+using namespace platform;
+
+QByteArray run(const QString& program, const QStringList& arguments, const QByteArray& in = {}) {
+    QProcess process;
+    process.start(program, arguments);
+    process.write(in);
+    process.closeWriteChannel();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 30000)) << qPrintable(program);
+    EXPECT_EQ(process.exitCode(), 0) << qPrintable(program + " " + arguments.join(" ")) << ": "
+                                     << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput();
+}
+
+void xdotool(const QStringList& arguments) {
+    run("xdotool", arguments);
+}
+
+/// Of the display, where a widget's point is.
+QStringList moveTo(const QWidget& widget, QPoint point) {
+    const QPoint at = widget.mapToGlobal(point) * widget.devicePixelRatioF();
+    return {"mousemove", "--sync", QString::number(at.x()), QString::number(at.y())};
+}
+
+template <class Condition>
+void await(const char* what, const Condition& condition) {
+    EXPECT_TRUE(QTest::qWaitFor(condition, 20000)) << "waited in vain: " << what;
+}
+
+class Session : public testing::Test {
+protected:
+    /// All that was heard is this, sooner or later.
+    static void hears(Hosted& hosted, const std::string& expected) {
+        std::string heard;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (heard += hosted.heard()) == expected; }, 20000)) << heard;
+    }
+    static void click(const Hosted& hosted, const Widget& widget, const char* button = "1") {
+        xdotool(moveTo(hosted, hosted.at(widget)) + QStringList{"click", button});
+    }
+};
+
+TEST_F(Session, ClicksAndKeys) {
+    Shown form;
+    auto& edit = form.add<QLineEdit>();
+    auto& decks = form.add<Hosted>("DeckButtons");
+    auto& pair = form.add<Hosted>("ssOKCancel");
+    form.open();
+    click(decks, decks.widget(u"optDeckCount", 6));
+    hears(decks, "NumberOfDecksChanged(6)");
+    xdotool({"key", "Down"});
+    hears(decks, "NumberOfDecksChanged(8)"); // 7 is greyed
+    xdotool({"key", "Tab"});
+    await("the keyboard", [&] { return pair.hasFocus(); });
+    xdotool({"key", "space"});
+    hears(pair, "CancelWasClicked()");
+    edit.setFocus();
+    xdotool({"key", "Escape"});
+    hears(pair, "CancelWasClicked()");
+    xdotool({"type", "ab"});
+    await("the text", [&] { return edit.text() == "ab"; });
+    xdotool({"key", "alt+4"});
+    hears(decks, "NumberOfDecksChanged(4)");
+    EXPECT_EQ(edit.text(), "ab");
+    EXPECT_TRUE(decks.hasFocus());
+}
+
+TEST_F(Session, ASpinButtonIsHeld) {
+    Shown form;
+    auto& counter = form.add<Hosted>("SpinCounter");
+    form.open();
+    xdotool(moveTo(counter, counter.at(counter.widget(u"SpinButton"), 0.5, 0.25)) + QStringList{"mousedown", "1"});
+    await("repeats", [&] { return counter.get("CounterValue").toInt() >= 3; });
+    xdotool({"mouseup", "1"});
+    await("the end", [&] { return !counter.control().clockWanted(); });
+    const QVariant value = counter.get("CounterValue");
+    xdotool({"click", "4"});
+    await("the wheel", [&] { return counter.get("CounterValue").toInt() == value.toInt() + 1; });
+
+    xdotool({"mousedown", "1"});
+    await("another press", [&] { return counter.control().clockWanted().has_value(); });
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    await("another window", [&] { return other.isActiveWindow(); });
+    EXPECT_FALSE(counter.control().clockWanted());
+    xdotool({"mouseup", "1"});
+}
+
+TEST_F(Session, MenusByPointerAndKeyboard) {
+    Shown form;
+    auto& decks = form.add<Hosted>("DeckButtons");
+    form.open();
+    const auto menu = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+    const auto opens = [&] { await("a menu", [&] { return menu() && menu()->isVisible(); }); };
+    const auto closes = [&] { await("no menu", [&] { return !menu(); }); };
+    xdotool(moveTo(decks, QPoint(decks.width() - 6, 6)) + QStringList{"click", "3"});
+    opens();
+    xdotool({"key", "Down", "Right"});
+    await("the casinos", [&] { return menu() && menu()->actions().size() > 10; });
+    xdotool({"key", "End", "Return"});
+    closes();
+    EXPECT_NE(decks.heard(), "") << "the choice reached the control";
+    decks.setFocus(Qt::TabFocusReason);
+    for (const char* key : {"Menu", "shift+F10"}) {
+        xdotool({"key", key});
+        opens();
+        xdotool({"key", "Escape"});
+        closes();
+        EXPECT_TRUE(decks.hasFocus());
+    }
+}
+
+/// How far two pictures are apart: the mean of the channels' differences, 0 to 255, and the share of pixels that differ
+/// clearly.
+std::pair<double, double> difference(const QImage& one, const QImage& other) {
+    double sum = 0;
+    double clearly = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x) {
+            const QColor a = one.pixelColor(x, y);
+            const QColor b = other.pixelColor(x, y);
+            const int apart =
+                std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+            sum += apart / 3.0;
+            clearly += apart > 3 * 96 ? 1 : 0;
+        }
+    const double pixels = 1.0 * one.width() * one.height();
+    return {sum / pixels, clearly / pixels};
+}
+
+TEST_F(Session, TheScreenShowsWhatTheVectorPictureShows) {
+    for (const char* name : {"DeckButtons", "ssOKCancel", "SpinCounter", "CardShufflingOptions"}) {
+        Shown form;
+        auto& hosted = form.add<Hosted>(name);
+        form.layout()->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        QPalette classic = form.palette();
+        classic.setColor(QPalette::Window, QColor(0xC0, 0xC0, 0xC0));
+        form.setPalette(classic);
+        form.open();
+        xdotool({"mousemove", "--sync", "0", "0"});
+        QImage screen;
+        const double ratio = hosted.devicePixelRatioF();
+        const QPoint corner = hosted.mapTo(&form, QPoint());
+        await("the picture", [&] {
+            screen = form.screen()->grabWindow(form.winId()).toImage();
+            return screen.pixelColor((QPointF(corner) * ratio + QPointF(12, 12)).toPoint()) != QColor(Qt::white);
+        });
+        const Rectangle area = hosted.control().surface().area();
+        SvgPainter painter(area.width, area.height);
+        ASSERT_EQ(hosted.control().Paint(painter), Status::Ok);
+        QImage drawn;
+        drawn.loadFromData(
+            run("rsvg-convert", {"--zoom", QString::number(ratio)}, QByteArray::fromStdString(painter.document())));
+        ASSERT_FALSE(drawn.isNull());
+        const QImage shown = screen.copy(QRect((QPointF(corner) * ratio).toPoint(), drawn.size()));
+        const auto [mean, clearly] = difference(shown, drawn);
+        EXPECT_LT(mean, 12) << name;
+        EXPECT_LT(clearly, 0.06) << name;
+        if (HasFailure())
+            shown.save(QString("/tmp/%1-shown.png").arg(name)), drawn.save(QString("/tmp/%1-drawn.png").arg(name));
+    }
+}
+
+} // namespace
+} // namespace zilvo::qt
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
