@@ -1,7 +1,6 @@
 #include "hosts/console/Gallery.h"
 
 #include "zilvo/platform/component/ControlHost.h"
-#include "zilvo/platform/painting/FontMetrics.h"
 #include "zilvo/platform/painting/SvgPainter.h"
 
 #include <algorithm>
@@ -60,14 +59,14 @@ std::string galleryOf(const LoadedComponent& component) {
     const Single height = arrange(exhibits);
 
     SvgPainter painter(PictureWidth, height);
-    painter.rectangle({0, 0, PictureWidth, height}, {.fill = Rgb{255, 255, 255}, .stroke = std::nullopt}, 0);
+    painter.rectangle({0, 0, PictureWidth, height}, {.fill = colours::White, .stroke = std::nullopt}, 0);
     for (const Exhibit& exhibit : exhibits) {
-        const Single baseline = exhibit.area.top - NameHeight + ascent(NameFont);
+        const Single baseline = exhibit.area.top - NameHeight + lineMetrics(NameFont).ascent;
         painter.text({.text = exhibit.name,
                       .origin = {exhibit.area.left, baseline},
                       .width = textWidth(exhibit.name, NameFont),
                       .font = NameFont,
-                      .colour = Rgb{0, 0, 0}});
+                      .colour = colours::Black});
         const PaintedArea area(painter, exhibit.area);
         exhibit.host->paint(painter);
     }

@@ -1,6 +1,5 @@
 #include "hosts/console/Snapshot.h"
 
-#include "zilvo/platform/painting/FontMetrics.h"
 #include "zilvo/platform/painting/SvgPainter.h"
 
 #include <algorithm>
@@ -24,7 +23,7 @@ public:
         for (const Point& corner : corners)
             reach({corner.x, corner.y, 0, 0});
     }
-    void line(Point from, Point to, Rgb, Single width) override {
+    void line(Point from, Point to, Colour, Single width) override {
         reach({from.x, from.y, width, width});
         reach({to.x, to.y, 0, 0});
     }
@@ -35,7 +34,6 @@ public:
         ++depth_;
     }
     void leave() override { --depth_; }
-    Single measure(StringView text, const FontLook& font) const override { return textWidth(text, font); }
 
 private:
     void reach(const Rectangle& area) {

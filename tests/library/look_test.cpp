@@ -1,6 +1,5 @@
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/ControlHost.h"
-#include "zilvo/platform/painting/FontMetrics.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -43,13 +42,13 @@ public:
     void rectangle(const Rectangle& area, const ShapeStyle& style, Single) override {
         const Drawn drawn = note(area);
         if (style.dotted) dotted.push_back(drawn);
-        if (style.fill) fill(drawn, *style.fill);
+        if (style.fill) fill(drawn, rgbOf(*style.fill));
     }
     void ellipse(const Rectangle&, const ShapeStyle&) override {}
     void polygon(std::span<const Point>, const ShapeStyle&) override {}
-    void line(Point, Point, Rgb, Single) override {}
+    void line(Point, Point, Colour, Single) override {}
     void text(const TextRun& run) override {
-        const Single capitals = capHeight(run.font);
+        const Single capitals = lineMetrics(run.font).capHeight;
         const Rectangle area{run.origin.x, run.origin.y - capitals, run.width, capitals + 2 * TwipsPerPixel};
         texts.push_back({moved(area), clips_.back()});
     }
@@ -65,7 +64,6 @@ public:
         origins_.pop_back();
         clips_.pop_back();
     }
-    Single measure(StringView text, const FontLook& font) const override { return textWidth(text, font); }
 
 private:
     static int pixel(Single twips) { return static_cast<int>(std::floor(twips / TwipsPerPixel)); }

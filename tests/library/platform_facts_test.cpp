@@ -122,9 +122,10 @@ TEST(PlatformFacts, TheBuiltInMetrics) {
           Case{u"Arial Black", 900, 50.058F * 1.2F, 111, 142, 72}}) {
         const platform::FontLook font{each.family, 75, each.weight, false, false, false};
         EXPECT_NEAR(textWidth(printable, font), each.width * 1500, 0.5) << toUtf8(each.family) << each.weight;
-        EXPECT_EQ(platform::ascent(font), each.ascent * 15);
-        EXPECT_EQ(lineHeight(font), each.line * 15);
-        EXPECT_EQ(capHeight(font), each.capitals * 15);
+        const platform::LineMetrics line = lineMetrics(font);
+        EXPECT_EQ(line.ascent, each.ascent * 15);
+        EXPECT_EQ(line.height, each.line * 15);
+        EXPECT_EQ(line.capHeight, each.capitals * 15);
     }
 }
 

@@ -157,12 +157,11 @@ TEST(HostileSite, APainterMayFailToLeaveAnArea) {
         void rectangle(const Rectangle&, const ShapeStyle&, Single) override { fail("rectangle"); }
         void ellipse(const Rectangle&, const ShapeStyle&) override {}
         void polygon(std::span<const Point>, const ShapeStyle&) override {}
-        void line(Point, Point, Rgb, Single) override {}
+        void line(Point, Point, Colour, Single) override {}
         void text(const TextRun&) override {}
         void bitmap(const Bitmap&, const Rectangle&) override {}
         void enter(const Rectangle&) override {}
         void leave() override { fail("leave"); }
-        Single measure(StringView, const FontLook&) const override { return 0; }
         std::string first;
 
     private:

@@ -1,7 +1,5 @@
 #include "zilvo/platform/painting/SvgPainter.h"
 
-#include "zilvo/platform/painting/FontMetrics.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -14,7 +12,7 @@ namespace zilvo::platform {
 namespace {
 
 constexpr FontLook Plain{u"Arial", 8.25F, 400, false, false, false};
-constexpr Rgb Black{};
+using colours::Black;
 
 /// Empty when the document is well-formed, else where it is not.
 std::string faultIn(const std::string& document) {

@@ -9,13 +9,13 @@ namespace {
 
 constexpr FontLook Plain{u"Arial", 8.25F, 400, false, false, false};
 
-/// Every character is 100 twips wide.
+/// Every character is 100 twips wide, every line 210 high.
 class Typewriter final : public Painter {
 public:
     struct Run {
         String text;
         Point origin;
-        Rgb colour;
+        Colour colour;
         std::size_t underlined;
     };
     std::vector<Run> runs;
@@ -24,7 +24,7 @@ public:
     void rectangle(const Rectangle&, const ShapeStyle&, Single) override {}
     void ellipse(const Rectangle&, const ShapeStyle&) override {}
     void polygon(std::span<const Point>, const ShapeStyle&) override {}
-    void line(Point, Point, Rgb, Single) override {}
+    void line(Point, Point, Colour, Single) override {}
     void text(const TextRun& run) override {
         runs.push_back({String(run.text), run.origin, run.colour, run.underlined});
     }
@@ -35,6 +35,7 @@ public:
         measured += text.size();
         return static_cast<Single>(text.size() * 100);
     }
+    LineMetrics lineMetrics(const FontLook&) const override { return {.height = 210, .ascent = 150, .capHeight = 90}; }
 
     std::vector<String> lines() const {
         std::vector<String> all;
@@ -82,7 +83,7 @@ TEST(TextLayout, BlanksAroundAnUnbrokenCaptionCount) {
     const Typewriter painter;
     EXPECT_EQ(measureCaption(painter, {0, 0, 1000, 300}, captioned(u"  OK   ")).width, 700);
     EXPECT_EQ(measureCaption(painter, {0, 0, 100, 300}, captioned(u"  OK   ", false)).width, 700);
-    EXPECT_EQ(measureCaption(painter, {0, 0, 1000, 300}, captioned(u"")).height, lineHeight(Plain));
+    EXPECT_EQ(measureCaption(painter, {0, 0, 1000, 300}, captioned(u"")).height, 210);
 }
 
 TEST(TextLayout, TheAccessKeyIsFoundInItsLine) {
@@ -104,21 +105,27 @@ TEST(TextLayout, AlignsEachLineAndGivesTheAreaOfAll) {
     ASSERT_EQ(painter.runs.size(), 2U);
     EXPECT_EQ(painter.runs[0].origin.x, 200);
     EXPECT_EQ(painter.runs[1].origin.x, 400);
-    EXPECT_EQ(painter.runs[0].origin.y, 1800 - 2 * lineHeight(Plain) + ascent(Plain));
+    EXPECT_EQ(painter.runs[0].origin.y, 1800 - 2 * 210 + 150);
     EXPECT_EQ(taken.left, 200);
     EXPECT_EQ(taken.right(), 600);
     EXPECT_EQ(taken.bottom(), 1800);
-    EXPECT_EQ(taken.height, 2 * lineHeight(Plain));
+    EXPECT_EQ(taken.height, 2 * 210);
 }
 
-TEST(TextLayout, GreyedTextIsWhiteBelowGrey) {
+TEST(TextLayout, OfALineHigherThanItsRoomTheCapitalsAreInTheMiddle) {
+    Typewriter painter;
+    paintCaption(painter, {0, 0, 1000, 180}, captioned(u"OK"));
+    EXPECT_EQ(painter.runs[0].origin.y, 30 + 90) << "with two pixels for the rule under an access key";
+}
+
+TEST(TextLayout, GreyedTextIsEmbossedInColoursOfTheScheme) {
     CaptionLook look = captioned(u"aa bb");
     look.greyed = true;
     Typewriter painter;
     paintCaption(painter, {0, 0, 200, 600}, look);
     ASSERT_EQ(painter.lines(), (Lines{u"aa", u"bb", u"aa", u"bb"}));
-    EXPECT_EQ(painter.runs[0].colour, (Rgb{255, 255, 255}));
-    EXPECT_EQ(painter.runs[2].colour, (Rgb{128, 128, 128}));
+    EXPECT_EQ(painter.runs[0].colour, colours::ButtonHighlight);
+    EXPECT_EQ(painter.runs[2].colour, colours::GreyText);
     EXPECT_EQ(painter.runs[0].origin.x, painter.runs[2].origin.x + 15);
     EXPECT_EQ(painter.runs[0].origin.y, painter.runs[2].origin.y + 15);
 }

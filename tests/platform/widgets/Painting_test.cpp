@@ -5,6 +5,62 @@
 namespace zilvo {
 namespace {
 
+/// Notes what it is asked to draw, and the stated colours among those it is given. Its lines of text are 40 pixels
+/// high.
+class Recorder final : public Painter {
+public:
+    std::set<std::string> drawn;
+    std::set<std::uint32_t> stated;
+    Rectangle frame;
+
+    void rectangle(const Rectangle&, const ShapeStyle& style, Single) override { note("rectangle", style); }
+    void ellipse(const Rectangle&, const ShapeStyle& style) override { note("ellipse", style); }
+    void polygon(std::span<const Point>, const ShapeStyle& style) override { note("polygon", style); }
+    void line(Point, Point, Colour colour, Single) override { note("line", colour); }
+    void text(const platform::TextRun& run) override { note("text", run.colour); }
+    void bitmap(const platform::Bitmap&, const Rectangle&) override { drawn.insert("bitmap"); }
+    void bevel(const Rectangle&, std::span<const platform::BevelLine> lines, std::optional<Colour> face) override {
+        note(lines.size() > 1 ? "bevel of a button" : "bevel of a panel", face.value_or(lines[0].upperLeft));
+    }
+    void roundBevel(const Rectangle&, std::span<const platform::BevelLine>, Colour face) override {
+        note("bevel of an option", face);
+    }
+    void groove(const Rectangle& area, Single, Single) override { frame = area; }
+    void focusFrame(const Rectangle&) override { drawn.insert("focus"); }
+    void mark(platform::Mark mark, const Rectangle&, Colour colour) override {
+        note("mark " + std::to_string(static_cast<int>(mark)), colour);
+    }
+    void dim(const Rectangle&, Colour ground) override { note("dim", ground); }
+    void enter(const Rectangle&) override {}
+    void leave() override {}
+    platform::LineMetrics lineMetrics(const platform::FontLook&) const override { return {600, 450, 300}; }
+
+private:
+    void note(const std::string& what, const platform::ShapeStyle& style) {
+        for (const auto& colour : {style.fill, style.stroke})
+            if (colour) note(what, *colour);
+    }
+    void note(const std::string& what, Colour colour) {
+        drawn.insert(what);
+        if (!colour.isSystem()) stated.insert(colour.value);
+    }
+};
+
+TEST(WidgetPainting, LeavesSchemeFontsAndTheLinesOfTheLookToThePainter) {
+    const GalleryHost g;
+    g.put(u"ribCard0", u"Enabled", false);
+    g.put(u"chkPick0", u"Value", 1);
+    g.focusOn(u"spnCount");
+    g.press({800, 200}, platform::input::RightButton); // on the panel: its menu
+    Recorder painter;
+    g->paint(painter);
+    EXPECT_EQ(painter.drawn, (std::set<std::string>{"bevel of a button", "bevel of a panel", "bevel of an option",
+                                                    "bitmap", "dim", "ellipse", "focus", "mark 0", "mark 1", "mark 2",
+                                                    "mark 3", "mark 4", "rectangle", "text"}));
+    EXPECT_EQ(painter.stated, (std::set<std::uint32_t>{0x00FFFFFF, 0x00006000})) << "of lblTable and shpTable";
+    EXPECT_EQ(painter.frame.top, 300) << "through the middle of the frame's caption";
+}
+
 TEST(WidgetPainting, EachStateOfEachKindLooksDifferent) {
     // Disabled, Hidden, Pressed, Focused, On
     const std::pair<StringView, std::string> cases[] = {

@@ -187,7 +187,7 @@ bool PopupMenu::canChoose(const Menu& item) {
 
 void PopupMenu::paint(Painter& painter) const {
     for (const Panel& panel : panels_) {
-        look::buttonFace(painter, panel.area, look::Face, false, false);
+        look::buttonFace(painter, panel.area, colours::Menu, false, false);
         for (const Menu* item : panel.menu->items()) {
             const Rectangle area = areaOf(panel, *item);
             if (item->isSeparator()) {
@@ -196,9 +196,10 @@ void PopupMenu::paint(Painter& painter) const {
                 continue;
             }
             const bool marked = item == panel.highlighted;
-            if (marked) painter.rectangle(area, {.fill = rgbOf(Colour{0x8000000D}), .stroke = std::nullopt});
-            const Rgb colour = rgbOf(Colour{marked ? 0x8000000E : 0x80000007});
-            if (item->get_Checked()) look::tick(painter, {area.left + 3 * Pixel, area.top + 3 * Pixel}, colour);
+            if (marked) painter.rectangle(area, {.fill = colours::Highlight, .stroke = std::nullopt});
+            const Colour colour = marked ? colours::HighlightText : colours::MenuText;
+            if (item->get_Checked())
+                painter.mark(Mark::Tick, {area.left + 3 * Pixel, area.top + 3 * Pixel, 13 * Pixel, 13 * Pixel}, colour);
             const auto caption = item->get_Caption();
             paintCaption(painter, {area.left + CheckWidth, area.top, area.width - CheckWidth, area.height},
                          {.designed = caption,
@@ -208,11 +209,9 @@ void PopupMenu::paint(Painter& painter) const {
                           .greyed = !item->get_Enabled(),
                           .wraps = false});
             if (!item->opensSubmenu()) continue;
-            const Single x = area.right() - 10 * Pixel;
-            const Single y = area.top + area.height / 2;
-            const std::array<Point, 3> corners = {Point{x, y - 4 * Pixel}, Point{x, y + 4 * Pixel},
-                                                  Point{x + 4 * Pixel, y}};
-            painter.polygon(corners, {.fill = colour, .stroke = std::nullopt});
+            const Single middle = area.top + area.height / 2;
+            painter.mark(Mark::RightArrow, {area.right() - 10 * Pixel, middle - 4 * Pixel, 4 * Pixel, 8 * Pixel},
+                         colour);
         }
     }
 }

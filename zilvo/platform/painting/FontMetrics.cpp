@@ -102,17 +102,13 @@ Single textWidth(StringView text, const FontLook& font) noexcept {
     return static_cast<Single>(static_cast<double>(sum) / 1000 * emOf(font) * factor);
 }
 
-Single lineHeight(const FontLook& font) noexcept {
-    return ascent(font) + static_cast<Single>(upToPixels(emOf(font) * familyOf(font).descent));
-}
-
-Single ascent(const FontLook& font) noexcept {
-    return static_cast<Single>(upToPixels(emOf(font) * familyOf(font).ascent));
-}
-
-Single capHeight(const FontLook& font) noexcept {
-    constexpr double OfEm = 0.72;
-    return static_cast<Single>(upToPixels(emOf(font) * OfEm));
+LineMetrics lineMetrics(const FontLook& font) noexcept {
+    constexpr double CapitalsOfEm = 0.72;
+    const double em = emOf(font);
+    const Family& family = familyOf(font);
+    const auto ascent = static_cast<Single>(upToPixels(em * family.ascent));
+    const auto descent = static_cast<Single>(upToPixels(em * family.descent));
+    return {ascent + descent, ascent, static_cast<Single>(upToPixels(em * CapitalsOfEm))};
 }
 
 } // namespace zilvo::platform

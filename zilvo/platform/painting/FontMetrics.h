@@ -10,10 +10,14 @@ namespace zilvo::platform {
 /// The width of one line.
 Single textWidth(StringView text, const FontLook& font) noexcept;
 
-/// The height of one line and how far its baseline lies below its top: whole pixels.
-Single lineHeight(const FontLook& font) noexcept;
-Single ascent(const FontLook& font) noexcept;
-/// From the baseline to the top of a capital letter, whole pixels too.
-Single capHeight(const FontLook& font) noexcept;
+/// One line of text, from top to bottom.
+struct LineMetrics {
+    Single height;
+    Single ascent;    ///< from its top to the baseline
+    Single capHeight; ///< from the baseline to the top of a capital letter
+};
+
+/// Whole pixels.
+LineMetrics lineMetrics(const FontLook& font) noexcept;
 
 } // namespace zilvo::platform

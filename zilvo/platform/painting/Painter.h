@@ -1,7 +1,7 @@
 #pragma once
 
 #include "zilvo/platform/painting/Bitmap.h"
-#include "zilvo/platform/values/StdFont.h"
+#include "zilvo/platform/painting/FontMetrics.h"
 #include "zilvo/platform/values/Units.h"
 
 #include <exception>
@@ -26,8 +26,8 @@ Rgb rgbOf(Colour colour) noexcept;
 /// there is no outline. A stroke is at least one pixel wide. That of a rectangle or an ellipse lies inside
 /// its area, so that a frame is exactly as large as its area.
 struct ShapeStyle {
-    std::optional<Rgb> fill;
-    std::optional<Rgb> stroke;
+    std::optional<Colour> fill;
+    std::optional<Colour> stroke;
     Single strokeWidth = TwipsPerPixel;
     bool dotted = false;
 };
@@ -43,13 +43,24 @@ struct TextRun {
     Single width = 0;
     Alignment align = Alignment::Near;
     FontLook font;
-    Rgb colour;
+    Colour colour;
     /// The letter to underline as an access key; npos for none.
     std::size_t underlined = String::npos;
 };
 
-/// The only way to draw. Positions and sizes are twips from the top left corner of the area last entered. A
-/// painter throws a Failure when its target fails.
+/// One line of a bevel, a pixel wide all round: the light comes from the upper left.
+struct BevelLine {
+    Colour upperLeft;
+    Colour lowerRight;
+};
+
+/// What stands in the marks of widgets and menus. Arrows point where they are named after and fill their area, as a
+/// dot does; a tick stands in a square of 12 or 13 pixels.
+enum class Mark : std::uint8_t { Tick, Dot, UpArrow, DownArrow, RightArrow };
+
+/// The only way to draw. Positions and sizes are twips from the top left corner of the area last entered. Colours come
+/// as they are stated: the painter looks up those of the system in its own scheme. A painter throws a Failure when its
+/// target fails.
 class Painter {
 public:
     Painter() = default;
@@ -65,17 +76,35 @@ public:
     virtual void polygon(std::span<const Point> corners, const ShapeStyle& style) = 0;
     /// Covers the pixels to the right of and below its points, without the one at its far end: from (0, 0) to
     /// (150, 0) is the first ten pixels of the top row; the last row of an area is at bottom() - width.
-    virtual void line(Point from, Point to, Rgb colour, Single width = TwipsPerPixel) = 0;
+    virtual void line(Point from, Point to, Colour colour, Single width = TwipsPerPixel) = 0;
     virtual void text(const TextRun& run) = 0;
     /// Draws the bitmap stretched over `area`.
     virtual void bitmap(const Bitmap& picture, const Rectangle& area) = 0;
+
+    // What the classic look is made of. The defaults draw it with the shapes above; a painter on a grid of pixels other
+    // than the designed one has its own, so that all lines are equally wide and none falls between two pixels.
+
+    /// Lines along the inside of the area, from the outside in and next to each other, round the face.
+    virtual void bevel(const Rectangle& area, std::span<const BevelLine> lines, std::optional<Colour> face = {});
+    /// The same as rings round a disc.
+    virtual void roundBevel(const Rectangle& area, std::span<const BevelLine> lines, Colour face);
+    /// A groove along the inside of the area, interrupted at the top between the two positions.
+    virtual void groove(const Rectangle& area, Single gapFrom, Single gapTo);
+    /// The dotted frame of the widget that has the keyboard.
+    virtual void focusFrame(const Rectangle& area);
+    virtual void mark(Mark mark, const Rectangle& area, Colour colour);
+    /// Greys what is drawn in the area: every other column of pixels in the ground's colour.
+    virtual void dim(const Rectangle& area, Colour ground);
 
     /// Until the matching leave(), positions count from the area's corner and nothing is drawn outside it.
     virtual void enter(const Rectangle& area) = 0;
     virtual void leave() = 0;
 
-    /// The width of one line in twips.
-    virtual Single measure(StringView text, const FontLook& font) const = 0;
+    // How large text is, in twips: by the built-in metrics unless the painter has fonts of its own.
+
+    /// The width of one line.
+    virtual Single measure(StringView text, const FontLook& font) const { return textWidth(text, font); }
+    virtual LineMetrics lineMetrics(const FontLook& font) const { return platform::lineMetrics(font); }
 };
 
 /// Enters an area for the length of a scope. A painter that fails to leave it fails the scope; when the scope has

@@ -1,6 +1,5 @@
 #include "zilvo/platform/painting/SvgPainter.h"
 
-#include "zilvo/platform/painting/FontMetrics.h"
 #include "zilvo/platform/values/Text.h"
 
 #include <algorithm>
@@ -52,7 +51,7 @@ void appendPlace(std::string& out, const Rectangle& area) {
     appendAttribute(out, "height", std::max(area.height, Single{0}));
 }
 
-void appendColour(std::string& out, std::string_view name, Rgb colour) {
+void appendRgb(std::string& out, std::string_view name, Rgb colour) {
     constexpr std::string_view digits = "0123456789abcdef";
     out.append(" ").append(name).append("=\"#");
     for (const unsigned part : {colour.red, colour.green, colour.blue}) {
@@ -60,6 +59,10 @@ void appendColour(std::string& out, std::string_view name, Rgb colour) {
         out += digits[part & 15U];
     }
     out += '"';
+}
+
+void appendColour(std::string& out, std::string_view name, Colour colour) {
+    appendRgb(out, name, rgbOf(colour));
 }
 
 /// A stroke thinner than a pixel could fall between the pixels.
@@ -309,7 +312,7 @@ void SvgPainter::polygon(std::span<const Point> corners, const ShapeStyle& style
     out_ += "/>";
 }
 
-void SvgPainter::line(Point from, Point to, Rgb colour, Single width) {
+void SvgPainter::line(Point from, Point to, Colour colour, Single width) {
     const Single thickness = strokeWidthOf(width);
     if (isAxisParallel(from, to)) {
         const Single across = std::abs(to.x - from.x);
@@ -350,7 +353,7 @@ void SvgPainter::bitmap(const Bitmap& picture, const Rectangle& area) {
     for (const auto& [colour, runs] : runsOf(picture)) {
         const auto part = [value = colour](unsigned shift) { return static_cast<std::uint8_t>(value >> shift); };
         out_ += "<path";
-        appendColour(out_, "fill", {part(16), part(8), part(0)});
+        appendRgb(out_, "fill", {part(16), part(8), part(0)});
         out_.append(" d=\"").append(runs).append("\"/>");
     }
     out_ += "</svg>";
@@ -367,10 +370,6 @@ void SvgPainter::leave() {
     if (depth_ == 0) return; // the document itself is closed by document()
     --depth_;
     out_ += "</svg>";
-}
-
-Single SvgPainter::measure(StringView text, const FontLook& font) const {
-    return textWidth(text, font);
 }
 
 std::string SvgPainter::document() const {

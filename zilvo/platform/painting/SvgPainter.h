@@ -13,12 +13,11 @@ public:
     void rectangle(const Rectangle& area, const ShapeStyle& style, Single cornerRadius) override;
     void ellipse(const Rectangle& area, const ShapeStyle& style) override;
     void polygon(std::span<const Point> corners, const ShapeStyle& style) override;
-    void line(Point from, Point to, Rgb colour, Single width) override;
+    void line(Point from, Point to, Colour colour, Single width) override;
     void text(const TextRun& run) override;
     void bitmap(const Bitmap& picture, const Rectangle& area) override;
     void enter(const Rectangle& area) override;
     void leave() override;
-    Single measure(StringView text, const FontLook& font) const override;
 
     /// The whole document, UTF-8; areas that have not been left are closed in it.
     std::string document() const;

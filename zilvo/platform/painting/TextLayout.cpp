@@ -85,12 +85,10 @@ Single offsetOf(Alignment alignment, Single room, Single taken) noexcept {
 
 /// Where the lines begin. Of one that is higher than the room and centred, the capitals and the rule under an access
 /// key are what is seen.
-Single topOf(const CaptionLook& look, Single room, Single taken) noexcept {
-    if (look.down != Alignment::Centre || taken <= room || taken > lineHeight(look.font))
-        return offsetOf(look.down, room, taken);
+Single topOf(Alignment down, const LineMetrics& metrics, Single room, Single taken) noexcept {
+    if (down != Alignment::Centre || taken <= room || taken > metrics.height) return offsetOf(down, room, taken);
     constexpr Single rule = 2 * TwipsPerPixel;
-    const Single capitals = capHeight(look.font);
-    return offsetOf(Alignment::Centre, room, capitals + rule) + capitals - ascent(look.font);
+    return offsetOf(Alignment::Centre, room, metrics.capHeight + rule) + metrics.capHeight - metrics.ascent;
 }
 
 struct Line {
@@ -101,6 +99,7 @@ struct Line {
 
 struct Layout {
     std::vector<Line> lines;
+    Single ascent = 0;
     Rectangle bounds;
 };
 
@@ -113,17 +112,18 @@ Layout layOut(const Painter& painter, const Rectangle& area, const CaptionLook& 
     const auto fits = [&](Piece piece) { return widthOf(piece) <= area.width + tolerance; };
     const std::vector<Piece> pieces = linesOf(text, look.wraps, fits);
 
-    const Single step = lineHeight(look.font);
-    const Single height = step * static_cast<Single>(pieces.size());
-    const Single top = area.top + topOf(look, area.height, height);
+    const LineMetrics metrics = painter.lineMetrics(look.font);
+    const Single height = metrics.height * static_cast<Single>(pieces.size());
+    const Single top = area.top + topOf(look.down, metrics, area.height, height);
     Layout layout;
+    layout.ascent = metrics.ascent;
     layout.lines.reserve(pieces.size());
     Single left = 0;
     Single right = 0;
     for (const Piece piece : pieces) {
         const Single width = widthOf(piece);
         const Point corner{area.left + offsetOf(look.across, area.width, width),
-                           top + step * static_cast<Single>(layout.lines.size())};
+                           top + metrics.height * static_cast<Single>(layout.lines.size())};
         left = layout.lines.empty() ? corner.x : std::min(left, corner.x);
         right = layout.lines.empty() ? corner.x + width : std::max(right, corner.x + width);
         layout.lines.push_back({piece, corner, width});
@@ -132,16 +132,15 @@ Layout layOut(const Painter& painter, const Rectangle& area, const CaptionLook& 
     return layout;
 }
 
-void paintLines(Painter& painter, const Layout& layout, const Caption& caption, const CaptionLook& look, Rgb colour,
+void paintLines(Painter& painter, const Layout& layout, const Caption& caption, const CaptionLook& look, Colour colour,
                 Single shift) {
     const StringView text = caption.text;
-    const Single baseline = ascent(look.font);
     for (const Line& line : layout.lines) {
         const auto [begin, end] = line.piece;
         if (begin == end) continue;
         const bool marked = caption.underlined >= begin && caption.underlined < end;
         painter.text({.text = text.substr(begin, end - begin),
-                      .origin = {line.corner.x + shift, line.corner.y + baseline + shift},
+                      .origin = {line.corner.x + shift, line.corner.y + layout.ascent + shift},
                       .width = line.width,
                       .align = look.across,
                       .font = look.font,
@@ -150,16 +149,13 @@ void paintLines(Painter& painter, const Layout& layout, const Caption& caption, 
     }
 }
 
-constexpr Colour EmbossLight{0x80000014};
-constexpr Colour GreyText{0x80000011};
-
 } // namespace
 
 Rectangle paintCaption(Painter& painter, const Rectangle& area, const CaptionLook& look) {
     const Caption caption = captionOf(look.designed);
     const Layout layout = layOut(painter, area, look, caption.text);
-    if (look.greyed) paintLines(painter, layout, caption, look, rgbOf(EmbossLight), TwipsPerPixel);
-    paintLines(painter, layout, caption, look, look.greyed ? rgbOf(GreyText) : look.colour, 0);
+    if (look.greyed) paintLines(painter, layout, caption, look, colours::ButtonHighlight, TwipsPerPixel);
+    paintLines(painter, layout, caption, look, look.greyed ? colours::GreyText : look.colour, 0);
     return layout.bounds;
 }
 

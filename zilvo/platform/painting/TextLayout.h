@@ -1,6 +1,5 @@
 #pragma once
 
-#include "zilvo/platform/painting/FontMetrics.h"
 #include "zilvo/platform/painting/Painter.h"
 
 namespace zilvo::platform {
@@ -9,7 +8,7 @@ namespace zilvo::platform {
 struct CaptionLook {
     StringView designed;
     FontLook font;
-    Rgb colour;
+    Colour colour;
     Alignment across = Alignment::Centre;
     Alignment down = Alignment::Centre;
     /// Greyed text is embossed: white one pixel to the right and below, grey on top; `colour` is not used.

@@ -50,10 +50,20 @@ namespace colours {
 inline constexpr Colour Black{0x00000000};
 inline constexpr Colour White{0x00FFFFFF};
 inline constexpr Colour LightGrey{0x00C0C0C0};
-inline constexpr Colour ButtonFace{0x8000000F};
-inline constexpr Colour ButtonText{0x80000012};
-inline constexpr Colour WindowText{0x80000008};
+inline constexpr Colour Menu{0x80000004};
 inline constexpr Colour WindowBackground{0x80000005};
+inline constexpr Colour WindowFrame{0x80000006};
+inline constexpr Colour MenuText{0x80000007};
+inline constexpr Colour WindowText{0x80000008};
+inline constexpr Colour Highlight{0x8000000D};
+inline constexpr Colour HighlightText{0x8000000E};
+inline constexpr Colour ButtonFace{0x8000000F};
+inline constexpr Colour ButtonShadow{0x80000010};
+inline constexpr Colour GreyText{0x80000011};
+inline constexpr Colour ButtonText{0x80000012};
+inline constexpr Colour ButtonHighlight{0x80000014};
+inline constexpr Colour ButtonDarkShadow{0x80000015};
+inline constexpr Colour ButtonLight{0x80000016};
 } // namespace colours
 
 /// The kind's published name: "Boolean", "Integer", "Font"; an array is "Boolean()".

@@ -64,19 +64,19 @@ void CommandButton::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
     // A push button that has the keyboard takes the heavy frame from the default one: Enter presses it.
     const bool framed = isFocused() || (get_Default() && !anyHasFocus(surface()) && surface().displaysDefault());
-    const Rectangle face = look::buttonFace(painter, area, rgbOf(get_BackColor()), isPressed(), framed);
+    const Rectangle face = look::buttonFace(painter, area, get_BackColor(), isPressed(), framed);
     Rectangle inner = area.inset(4 * TwipsPerPixel);
     if (isPressed()) inner = {inner.left + TwipsPerPixel, inner.top + TwipsPerPixel, inner.width, inner.height};
     Rectangle text;
     {
         const PaintedArea shown(painter, face);
-        text = paintCaption(
-            painter, {inner.left - face.left, inner.top - face.top, inner.width, inner.height},
-            {.designed = caption(), .font = font(), .colour = rgbOf(get_ForeColor()), .greyed = !get_Enabled()});
+        text =
+            paintCaption(painter, {inner.left - face.left, inner.top - face.top, inner.width, inner.height},
+                         {.designed = caption(), .font = font(), .colour = get_ForeColor(), .greyed = !get_Enabled()});
     }
     // A caption as wide as the face leaves the frame no place but the bevel.
     const bool isFull = text.width > inner.width - 2 * TwipsPerPixel;
-    if (isFocused()) look::focus(painter, isFull ? area.inset(2 * TwipsPerPixel) : inner);
+    if (isFocused()) painter.focusFrame(isFull ? area.inset(2 * TwipsPerPixel) : inner);
 }
 
 } // namespace zilvo::platform

@@ -19,12 +19,12 @@ const ClassDescription& Label::description() const noexcept {
 void Label::paint(Painter& painter) const {
     const Rectangle drawn = drawnArea();
     const Rectangle area{reach_, reach_, drawn.width, drawn.height};
-    if (!transparent_) painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    if (!transparent_) painter.rectangle(area, {.fill = get_BackColor(), .stroke = std::nullopt});
     if (sunken_) look::sunken(painter, area);
     paintCaption(painter, sunken_ ? area.inset(TwipsPerPixel) : area,
                  {.designed = caption(),
                   .font = font(),
-                  .colour = rgbOf(get_ForeColor()),
+                  .colour = get_ForeColor(),
                   .across = align_,
                   .down = Alignment::Near,
                   .greyed = !get_Enabled()});

@@ -3,13 +3,13 @@
 namespace zilvo::platform {
 
 void MarkedWidget::paintGround(Painter& painter) const {
-    if (!transparent_) painter.rectangle(drawnArea(), {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    if (!transparent_) painter.rectangle(drawnArea(), {.fill = get_BackColor(), .stroke = std::nullopt});
 }
 
 look::MarkedLook MarkedWidget::look() const {
     return {.caption = caption(),
             .font = font(),
-            .foreColor = rgbOf(get_ForeColor()),
+            .foreColor = get_ForeColor(),
             .side = mark_,
             .enabled = get_Enabled(),
             .focused = isFocused(),

@@ -29,11 +29,11 @@ const ClassDescription& SSPanel::description() const noexcept {
 
 void SSPanel::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
-    painter.rectangle(area, {.fill = rgbOf(get_BackColor()), .stroke = std::nullopt});
+    painter.rectangle(area, {.fill = get_BackColor(), .stroke = std::nullopt});
     paintCaption(painter, area.inset(2 * TwipsPerPixel),
                  {.designed = caption(),
                   .font = font(),
-                  .colour = rgbOf(get_ForeColor()),
+                  .colour = get_ForeColor(),
                   .down = captionDown_,
                   .greyed = !get_Enabled()});
 }

@@ -61,7 +61,7 @@ const ClassDescription& SSRibbon::description() const noexcept {
 void SSRibbon::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
     const bool down = get_Value() || isPressed();
-    const Rectangle inside = look::buttonFace(painter, area, rgbOf(backColor_), down, outline_);
+    const Rectangle inside = look::buttonFace(painter, area, backColor_, down, outline_);
     if (const Bitmap* picture = down && pictureDown_ ? pictureDown_ : pictureUp_) {
         const Single width = static_cast<Single>(picture->width()) * TwipsPerPixel;
         const Single height = static_cast<Single>(picture->height()) * TwipsPerPixel;
@@ -70,8 +70,8 @@ void SSRibbon::paint(Painter& painter) const {
         painter.bitmap(*picture, {wholePixels((inside.width - width) / 2) + shift,
                                   wholePixels((inside.height - height) / 2) + shift, width, height});
     }
-    if (!get_Enabled()) look::dim(painter, area.inset(2 * TwipsPerPixel), rgbOf(backColor_));
-    if (isFocused()) look::focus(painter, area.inset(3 * TwipsPerPixel));
+    if (!get_Enabled()) painter.dim(area.inset(2 * TwipsPerPixel), backColor_);
+    if (isFocused()) painter.focusFrame(area.inset(3 * TwipsPerPixel));
 }
 
 } // namespace zilvo::platform

@@ -47,8 +47,8 @@ void Shape::paint(Painter& painter) const {
         area = {(area.width - side) / 2, (area.height - side) / 2, side, side};
     }
     ShapeStyle style{.fill = std::nullopt, .stroke = std::nullopt, .strokeWidth = strokeWidth};
-    if (filled_) style.fill = rgbOf(fillColor_);
-    if (borderWidth_ > 0) style.stroke = rgbOf(borderColor_);
+    if (filled_) style.fill = fillColor_;
+    if (borderWidth_ > 0) style.stroke = borderColor_;
     const Single cornerRadius = std::min(area.width, area.height) / 5;
     switch (form_) {
     case IsOval:

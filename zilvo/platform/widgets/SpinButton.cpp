@@ -64,13 +64,13 @@ const ClassDescription& SpinButton::description() const noexcept {
 void SpinButton::paint(Painter& painter) const {
     for (const Spin way : {Spin::Up, Spin::Down}) {
         const Rectangle area = half(way);
-        look::buttonFace(painter, area, rgbOf(backColor_), isPressed() && spinning_ == way, false);
+        look::buttonFace(painter, area, backColor_, isPressed() && spinning_ == way, false);
         // Mounted above or below another widget, a wide button may show its upper half only: the arrows stay there.
         const Single shown = isSideBySide() ? area.height / 2 : area.height;
         look::arrow(painter, {area.left, area.top, area.width, shown}, way == Spin::Up, !get_Enabled());
         // A low half has room for a frame only on its bevel.
         const Single inset = shown < 16 * TwipsPerPixel ? TwipsPerPixel : 3 * TwipsPerPixel;
-        if (isFocused()) look::focus(painter, Rectangle{area.left, area.top, area.width, shown}.inset(inset));
+        if (isFocused()) painter.focusFrame(Rectangle{area.left, area.top, area.width, shown}.inset(inset));
     }
 }
 

@@ -60,7 +60,7 @@ Hit Surface::hitTest(Point at) {
 }
 
 void Surface::paint(Painter& painter) {
-    painter.rectangle(area(), {.fill = rgbOf(backColor()), .stroke = std::nullopt});
+    painter.rectangle(area(), {.fill = backColor(), .stroke = std::nullopt});
     paintChildren(painter, *this);
 }
 
