@@ -348,7 +348,6 @@ bool ControlWidget::event(QEvent* event) {
         if (alive && isHidden()) input(input::PointerLost{});
         break;
     case QEvent::Show:
-    case QEvent::ParentChange:
         WindowKeys::of(*window()).updateDefault();
         break;
     case QEvent::WindowBlocked:
@@ -451,8 +450,8 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
 
 void ControlWidget::widgetChanged(const Widget& /*widget*/, Aspect aspect) noexcept {
     update();
-    if (aspect == Aspect::Default || aspect == Aspect::Enabled || aspect == Aspect::Visible)
-        WindowKeys::of(*window()).updateDefault();
+    if (aspect != Aspect::Default && aspect != Aspect::Enabled && aspect != Aspect::Visible) return;
+    if (WindowKeys* keys = WindowKeys::find(*window())) keys->updateDefault();
 }
 
 void ControlWidget::showPopup(Menu& root, Point at) {

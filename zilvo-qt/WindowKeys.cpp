@@ -42,12 +42,19 @@ ControlWidget* first(const std::vector<ControlWidget*>& controls, const Has& has
 
 } // namespace
 
+constexpr const char* Property = "zilvoWindowKeys";
+
+WindowKeys* WindowKeys::find(const QWidget& window) {
+    return qobject_cast<WindowKeys*>(window.property(Property).value<QObject*>());
+}
+
 WindowKeys& WindowKeys::of(QWidget& window) {
-    if (auto* keys = window.findChild<WindowKeys*>({}, Qt::FindDirectChildrenOnly)) return *keys;
+    if (WindowKeys* keys = find(window)) return *keys;
     return *new WindowKeys(window);
 }
 
 WindowKeys::WindowKeys(QWidget& window) : QObject(&window), window_(window) {
+    window.setProperty(Property, QVariant::fromValue<QObject*>(this)); // looked up in no time on a form of many
     window.installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this] { updateDefault(); });
 }
@@ -61,7 +68,9 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
         if (key->key == input::Key::Character && key->shift == input::AltMask) takeLetter(*key);
         return false;
     }
-    // A key comes to the window itself only when nothing on it has used it.
+    // A key comes to the window itself only when nothing on it has used it; unless it is a control, which is asked
+    // next.
+    if (qobject_cast<ControlWidget*>(&window_)) return false;
     if (key->shift != 0 || (key->key != input::Key::Enter && key->key != input::Key::Escape)) return false;
     const bool enter = key->key == input::Key::Enter;
     ControlWidget* control = enter ? defaultControl() : cancelControl();

@@ -21,6 +21,8 @@ class WindowKeys final : public QObject {
 
 public:
     static WindowKeys& of(QWidget& window);
+    /// Null while no control was shown on the window.
+    static WindowKeys* find(const QWidget& window);
 
     /// Something that Enter depends on has changed: soon the control whose default button is the window's now, and no
     /// other, draws the heavy frame.

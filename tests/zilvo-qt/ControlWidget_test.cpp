@@ -167,6 +167,13 @@ TEST(ControlWidget, EnterAndEscapeAreTheWindows) {
     plain.setFocus();
     EXPECT_EQ(press(Qt::Key_Return), "*");
     EXPECT_FALSE(heavy(other));
+
+    Hosted alone("Outer"); // is its own window
+    alone.show();
+    alone.input(input::FocusOn{alone.widget(u"cmdPush", 0)});
+    QTest::keyClick(&alone, Qt::Key_Return);
+    QTest::keyClick(&alone, Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(alone.heard(), "PushClicked(0) PushClicked(1)");
 }
 
 TEST(ControlWidget, LettersWithAltGoToWhoAnswersNow) {

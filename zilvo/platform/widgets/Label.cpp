@@ -27,7 +27,7 @@ void Label::paint(Painter& painter) const {
                   .colour = get_ForeColor(),
                   .across = align_,
                   .down = Alignment::Near,
-                  .greyed = !get_Enabled()});
+                  .greyed = isGreyed()});
 }
 
 } // namespace zilvo::platform

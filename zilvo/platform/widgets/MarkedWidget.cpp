@@ -11,7 +11,7 @@ look::MarkedLook MarkedWidget::look() const {
             .font = font(),
             .foreColor = get_ForeColor(),
             .side = mark_,
-            .enabled = get_Enabled(),
+            .enabled = !isGreyed(),
             .focused = isFocused(),
             .pressed = isPressed()};
 }

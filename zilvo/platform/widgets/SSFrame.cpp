@@ -24,7 +24,7 @@ void SSFrame::paint(Painter& painter) const {
                            .colour = get_ForeColor(),
                            .across = Alignment::Near,
                            .down = Alignment::Near,
-                           .greyed = !get_Enabled(),
+                           .greyed = isGreyed(),
                            .wraps = false};
     const Single lineHeight = painter.lineMetrics(look.font).height;
     const Rectangle line{indent, 0, area.width - indent, lineHeight};

@@ -35,7 +35,7 @@ void SSPanel::paint(Painter& painter) const {
                   .font = font(),
                   .colour = get_ForeColor(),
                   .down = captionDown_,
-                  .greyed = !get_Enabled()});
+                  .greyed = isGreyed()});
 }
 
 void SSPanel::paintEdge(Painter& painter) const {

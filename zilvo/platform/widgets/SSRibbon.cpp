@@ -70,7 +70,7 @@ void SSRibbon::paint(Painter& painter) const {
         painter.bitmap(*picture, {wholePixels((inside.width - width) / 2) + shift,
                                   wholePixels((inside.height - height) / 2) + shift, width, height});
     }
-    if (!get_Enabled()) painter.dim(area.inset(2 * TwipsPerPixel), backColor_);
+    if (isGreyed()) painter.dim(area.inset(2 * TwipsPerPixel), backColor_);
     if (isFocused()) painter.focusFrame(area.inset(3 * TwipsPerPixel));
 }
 

@@ -67,7 +67,7 @@ void SpinButton::paint(Painter& painter) const {
         look::buttonFace(painter, area, backColor_, isPressed() && spinning_ == way, false);
         // Mounted above or below another widget, a wide button may show its upper half only: the arrows stay there.
         const Single shown = isSideBySide() ? area.height / 2 : area.height;
-        look::arrow(painter, {area.left, area.top, area.width, shown}, way == Spin::Up, !get_Enabled());
+        look::arrow(painter, {area.left, area.top, area.width, shown}, way == Spin::Up, isGreyed());
         // A low half has room for a frame only on its bevel.
         const Single inset = shown < 16 * TwipsPerPixel ? TwipsPerPixel : 3 * TwipsPerPixel;
         if (isFocused()) painter.focusFrame(Rectangle{area.left, area.top, area.width, shown}.inset(inset));

@@ -136,6 +136,10 @@ bool Widget::acceptsInput() const {
     return surface().acceptsInput();
 }
 
+bool Widget::isGreyed() const {
+    return !enabled_ || !surface().isEnabled();
+}
+
 bool Widget::leadsGroup() const {
     bool passed = false;
     for (const Widget& other : surface()) {

@@ -221,6 +221,8 @@ protected:
         const Rectangle drawn = bounds_.onWholePixels();
         return {0, 0, drawn.width, drawn.height};
     }
+    /// Whether it is drawn as one that takes no input: itself disabled, or the control as a whole.
+    bool isGreyed() const;
     /// Tells the host, for whom the view is out of date.
     void changed(Aspect aspect) const noexcept;
     /// For a widget whose inside follows its size: runs after its width or height was set.
