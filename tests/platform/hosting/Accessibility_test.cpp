@@ -142,7 +142,7 @@ TEST(Accessibility, StateIsThatOfAllThatItLiesIn) {
     outer.put(u"smallOne", u"Visible", false);
     EXPECT_FALSE(state().shown);
     const Widget& push = outer[u"cmdPush0"];
-    outer->extenderObject().put_Visible(false);
+    outer->extenderObject().put_Enabled(false);
     EXPECT_FALSE(stateOf(push).enabled);
 
     const GalleryHost g;

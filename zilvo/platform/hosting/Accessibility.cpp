@@ -97,7 +97,7 @@ Rectangle clipped(const Rectangle& area, const Rectangle& to) {
             std::clamp(area.bottom(), Single{0}, to.height) - top};
 }
 
-void collectChildren(const Container& container, Surface& surface, std::vector<Widget*>& children) {
+void collectChildren(const Container& container, const Surface& surface, std::vector<Widget*>& children) {
     for (Widget* widget : surface.inTabOrder()) {
         if (&widget->container() != &container) continue;
         if (Surface* inner = widget->embeddedSurface())
@@ -166,19 +166,16 @@ Rectangle boundsOf(const Widget& widget) {
 
 State stateOf(const Widget& widget) {
     State state{.shown = widget.isPlaced(),
-                .enabled = true,
+                .enabled = widget.surface().isEnabled(),
                 .focusable = widget.takesFocus(),
                 .focused = widget.isFocused(),
                 .pressed = widget.isPressed(),
-                .isDefault = widget.surface().defaultButton == &widget,
+                .isDefault = widget.surface().defaultButton == &widget && widget.surface().displaysDefault(),
                 .checked = widget.checked()};
-    const Widget* outermost = &widget;
     for (const Widget* at = &widget; at; at = at->outer()) {
         state.shown = state.shown && at->get_Visible();
         state.enabled = state.enabled && at->get_Enabled();
-        outermost = at;
     }
-    state.enabled = state.enabled && outermost->surface().acceptsInput();
     return state;
 }
 
@@ -199,13 +196,13 @@ Widget* parentOf(const Widget& widget) {
     return outer && outer->embeddedSurface() ? parentOf(*outer) : outer;
 }
 
-std::vector<Widget*> childrenOf(Surface& surface) {
+std::vector<Widget*> childrenOf(const Surface& surface) {
     std::vector<Widget*> children;
     collectChildren(surface, surface, children);
     return children;
 }
 
-std::vector<Widget*> childrenOf(Widget& widget) {
+std::vector<Widget*> childrenOf(const Widget& widget) {
     std::vector<Widget*> children;
     if (const auto* menu = dynamic_cast<const Menu*>(&widget)) {
         const auto items = menu->items();

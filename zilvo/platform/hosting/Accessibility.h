@@ -29,9 +29,8 @@ std::optional<GroupPlace> groupPlaceOf(const Widget& widget);
 Rectangle boundsOf(const Widget& widget);
 
 struct State {
-    bool shown; ///< with all that it lies in; never a menu, which shows as a pop-up only
-    /// With all that it lies in, and the host lets the user reach the control.
-    bool enabled;
+    bool shown;   ///< with all that it lies in on the control; never a menu, which shows as a pop-up only
+    bool enabled; ///< with all that it lies in, and the control
     bool focusable;
     bool focused;
     bool pressed; ///< held down by the user
@@ -50,7 +49,7 @@ std::vector<input::Action> actionsOf(const Widget& widget);
 /// widgets are those of the container that it lies in. Null directly on the surface that the host drives.
 Widget* parentOf(const Widget& widget);
 /// In Tab order, hidden ones too; then the menus.
-std::vector<Widget*> childrenOf(Surface& surface);
-std::vector<Widget*> childrenOf(Widget& widget);
+std::vector<Widget*> childrenOf(const Surface& surface);
+std::vector<Widget*> childrenOf(const Widget& widget);
 
 } // namespace zilvo::platform::accessible
