@@ -1,5 +1,7 @@
 #include "zilvo-qt/ControlWidget.h"
 
+#include "zilvo-qt/AccessibleControl.h"
+#include "zilvo-qt/AccessibleWidgets.h"
 #include "zilvo-qt/Components.h"
 #include "zilvo-qt/Keys.h"
 #include "zilvo-qt/PopupMenu.h"
@@ -42,6 +44,8 @@ class ControlWidget::Host final : public ControlHost {
 public:
     Host(ControlWidget& widget, Ref<Object> object) : ControlHost(std::move(object)), widget_(widget) {}
 
+    AccessibleWidgets& accessible() noexcept { return accessible_; }
+
 private:
     void PropertyChanged(StringView name) override { widget_.tellChanged(name); }
     void SizeChanged(Single width, Single height) override {
@@ -52,10 +56,14 @@ private:
     bool ShowPopup(Menu& root, Point at) override { return widget_.showPopup(root, at), true; }
     bool LeaveFocus(bool /*forward*/) override { return widget_.leaves_ = true; }
     void ViewChanged() noexcept override { widget_.update(); }
-    void WidgetChanged(const Widget& widget, Aspect aspect) noexcept override { widget_.widgetChanged(widget, aspect); }
+    void WidgetChanged(const Widget& widget, Aspect aspect) noexcept override {
+        accessible_.widgetChanged(widget, aspect);
+        widget_.widgetChanged(widget, aspect);
+    }
     void ExtenderChanged(Aspect aspect) override { widget_.extenderChanged(aspect); }
 
     ControlWidget& widget_;
+    AccessibleWidgets accessible_{widget_, control()};
 };
 
 /// A size is on its way in or out and is not to come back, for a scope that the widget may not survive.
@@ -98,6 +106,7 @@ ControlWidget::ControlWidget(const QString& controlClass, const QVariantMap& set
 ControlWidget::~ControlWidget() = default;
 
 void ControlWidget::open(const QVariantMap* settings) {
+    installAccessibleControls();
     host_ = instance(settings, {});
     hint_ = pixelsOf(control().surface().area());
     resize(hint_);
@@ -131,6 +140,10 @@ std::unique_ptr<ControlWidget::Host> ControlWidget::instance(const QVariantMap* 
     const Sizing sizing(*this);
     host->open(settings ? &bag : nullptr, width, height);
     return host;
+}
+
+AccessibleWidgets* ControlWidget::accessibleWidgets() const {
+    return host_ ? &host_->accessible() : nullptr;
 }
 
 HostedControl& ControlWidget::control() const {
@@ -184,6 +197,11 @@ void ControlWidget::restoreSettings(const QVariantMap& settings) {
     qDeleteAll(findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly)); // with the items of the control that goes
     clock_.stop();
     host_.swap(host);
+    host.reset();
+    if (QAccessible::isActive()) {
+        QAccessibleEvent other(this, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&other);
+    }
     if (hasFocus()) input(input::FocusIn{});
     update();
 }

@@ -12,6 +12,8 @@
 
 namespace zilvo::qt {
 
+class AccessibleWidgets;
+
 /// A widget that hosts a control of any component. What the user does goes to the control; its colours, font and mode
 /// come from the widget's palette, font and userMode; sizes follow each other. Positions within the control are twips,
 /// fifteen to the logical pixel.
@@ -106,12 +108,15 @@ private:
     class Host;
     class Sizing;
     friend class WindowKeys;
+    friend class AccessibleControl;
 
     void open(const QVariantMap* settings);
     /// Live, with all handlers attached; of its own size unless one is given.
     std::unique_ptr<Host> instance(const QVariantMap* settings, std::optional<QSize> size);
     void listen(Host& host, const platform::EventDescription& event);
     void setAmbient(platform::StringView name, const platform::Variant& value);
+    /// Null before there is a control.
+    AccessibleWidgets* accessibleWidgets() const;
 
     // What the control tells its site.
     void controlSized();

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QAccessible>
+
+namespace zilvo::qt {
+
+/// Gives the widgets that host controls their accessible objects from now on. May be called again.
+void installAccessibleControls();
+
+} // namespace zilvo::qt
