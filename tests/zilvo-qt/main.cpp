@@ -3,7 +3,7 @@
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // nobody's screen is needed
+    if (!qEnvironmentVariableIsSet("ZILVO_TEST_SCREEN")) qputenv("QT_QPA_PLATFORM", "offscreen"); // nobody's is needed
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
