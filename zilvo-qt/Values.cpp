@@ -5,6 +5,9 @@
 #include "zilvo/platform/values/Units.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <charconv>
 
 namespace zilvo::qt {
 
@@ -13,7 +16,7 @@ using namespace platform;
 namespace {
 
 QVariant toQVariant(Colour colour) {
-    if (colour.isSystem()) return QVariant(colour.value);
+    if (colour.isSystem()) return std::bit_cast<int>(colour.value);
     const auto part = [&](unsigned shift) { return static_cast<int>(colour.value >> shift & 0xFFU); };
     return QColor(part(0), part(8), part(16));
 }
@@ -22,6 +25,15 @@ Long toLong(qlonglong number, StringView what) {
     if (number < std::numeric_limits<Long>::min() || number > std::numeric_limits<Long>::max())
         throw Failure(Status::Overflow, toUtf8(what) + ": " + std::to_string(number) + " is no Long");
     return static_cast<Long>(number);
+}
+
+/// 0.1 for the Single nearest to it, which itself is 0.10000000149.
+double toDouble(Single number) {
+    std::array<char, 32> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+    double result = 0;
+    std::from_chars(digits.data(), end, result);
+    return result;
 }
 
 } // namespace
@@ -72,11 +84,10 @@ QVariant toQVariant(const Variant& given) {
     case Kind::Boolean:
         return toBoolean(value);
     case Kind::Integer:
-        return QVariant::fromValue(toInteger(value));
     case Kind::Long:
         return platform::toLong(value);
     case Kind::Single:
-        return toSingle(value);
+        return toDouble(toSingle(value));
     case Kind::String:
         return toQString(platform::toString(value));
     case Kind::Colour:
@@ -92,22 +103,19 @@ QVariant toQVariant(const Variant& given) {
 }
 
 Variant toVariant(const QVariant& value, StringView what) {
-    if (value.canConvert<QList<bool>>() && value.typeId() == qMetaTypeId<QList<bool>>())
-        return toArray(value.value<QList<bool>>());
+    if (value.metaType() == QMetaType::fromType<QList<bool>>()) return toArray(value.value<QList<bool>>());
     switch (value.typeId()) {
     case QMetaType::UnknownType:
         return {};
     case QMetaType::Bool:
         return value.toBool();
-    case QMetaType::Short:
-        return static_cast<Integer>(value.value<short>());
-    case QMetaType::Char:
     case QMetaType::SChar:
     case QMetaType::UChar:
+    case QMetaType::Short:
     case QMetaType::UShort:
     case QMetaType::Int:
-    case QMetaType::LongLong:
     case QMetaType::Long:
+    case QMetaType::LongLong:
         return toLong(value.toLongLong(), what);
     case QMetaType::UInt: // a system colour among others
         return Colour{value.toUInt()};
@@ -120,6 +128,7 @@ Variant toVariant(const QVariant& value, StringView what) {
         return toColour(value.value<QColor>());
     case QMetaType::QFont:
         return toFont(value.value<QFont>());
+    case QMetaType::QStringList:
     case QMetaType::QVariantList: {
         QList<bool> list;
         for (const QVariant& element : value.toList())
@@ -149,13 +158,20 @@ BooleanArray toArray(const QList<bool>& list) {
 
 QVariantMap toMap(const MemoryPropertyBag& settings) {
     QVariantMap map;
-    for (const auto& [name, value] : settings.settings())
-        map.insert(toQString(name), toQVariant(value));
+    for (const auto& [name, value] : settings.settings()) {
+        QVariant saved = toQVariant(value);
+        if (value.kind() == Kind::BooleanArray) {
+            const QList<bool> list = saved.value<QList<bool>>();
+            saved = QVariantList(list.begin(), list.end());
+        }
+        map.insert(toQString(name), saved);
+    }
     return map;
 }
 
 void fill(MemoryPropertyBag& settings, const QVariantMap& map) {
     for (auto setting = map.begin(); setting != map.end(); ++setting) {
+        if (!setting.value().isValid()) continue;
         const String name = toString(setting.key());
         settings.set(name, toVariant(setting.value(), name));
     }
