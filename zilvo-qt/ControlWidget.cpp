@@ -2,6 +2,7 @@
 
 #include "zilvo-qt/AccessibleControl.h"
 #include "zilvo-qt/AccessibleWidgets.h"
+#include "zilvo-qt/Calls.h"
 #include "zilvo-qt/Components.h"
 #include "zilvo-qt/Keys.h"
 #include "zilvo-qt/PopupMenu.h"
@@ -47,7 +48,7 @@ public:
     AccessibleWidgets& accessible() noexcept { return accessible_; }
 
 private:
-    void PropertyChanged(StringView name) override { widget_.tellChanged(name); }
+    void PropertyChanged(StringView name) override { widget_.changed(name); }
     void SizeChanged(Single width, Single height) override {
         ControlHost::SizeChanged(width, height);
         widget_.controlSized();
@@ -82,13 +83,8 @@ private:
 };
 
 template <class Body>
-bool ControlWidget::guarded(const Body& body) {
-    const QPointer<ControlWidget> alive(this);
-    ErrorInfo error;
-    const Status status = atTheEdge(
-        &error, [] { return std::string(); }, body);
-    if (alive && !succeeded(status)) emit failed(static_cast<int>(status), QString::fromStdString(error.message));
-    return alive && succeeded(status);
+bool ControlWidget::guarded(const Body& body) const {
+    return qt::guarded(*this, body);
 }
 
 // ---- The control
@@ -116,14 +112,7 @@ void ControlWidget::open(const QVariantMap* settings) {
 
 std::unique_ptr<ControlWidget::Host> ControlWidget::instance(const QVariantMap* settings, std::optional<QSize> size) {
     auto host = std::make_unique<Host>(*this, Components::ofApplication().create(controlClass_));
-    StandardAmbient& ambient = host->ambientProperties();
-    ambient.put_BackColor(toColour(palette().color(QPalette::Window)));
-    ambient.put_ForeColor(toColour(palette().color(QPalette::WindowText)));
-    ambient.put_Font(toFont(font()));
-    if (host_) {
-        ambient.put_UserMode(userMode());
-        ambient.put_DisplayAsDefault(displaysDefault());
-    }
+    giveAmbient(*host);
     for (const auto& [event, handler] : handlers_)
         host->on(toString(event), handler);
     for (const EventDescription* event : heard_)
@@ -146,6 +135,16 @@ AccessibleWidgets* ControlWidget::accessibleWidgets() const {
     return host_ ? &host_->accessible() : nullptr;
 }
 
+void ControlWidget::giveAmbient(ControlHost& host) const {
+    StandardAmbient& ambient = host.ambientProperties();
+    ambient.put_BackColor(toColour(palette().color(QPalette::Window)));
+    ambient.put_ForeColor(toColour(palette().color(QPalette::WindowText)));
+    ambient.put_Font(toFont(font()));
+    if (!host_) return;
+    ambient.put_UserMode(userMode());
+    ambient.put_DisplayAsDefault(displaysDefault());
+}
+
 HostedControl& ControlWidget::control() const {
     return host_->control();
 }
@@ -160,14 +159,7 @@ void ControlWidget::put(const QString& name, const QVariant& value) {
 }
 
 QVariant ControlWidget::call(const QString& name, QVariantList& arguments) {
-    const String member = toString(name);
-    std::vector<Variant> given;
-    for (const QVariant& argument : arguments)
-        given.push_back(toVariant(argument, member));
-    const Variant result = host_->call(member, given);
-    std::transform(given.begin(), given.end(), arguments.begin(),
-                   [](const Variant& argument) { return toQVariant(argument); });
-    return toQVariant(result);
+    return qt::call(host_->object(), toString(name), arguments);
 }
 
 QVariant ControlWidget::call(const QString& name, const QVariantList& arguments) {
@@ -180,8 +172,29 @@ void ControlWidget::on(const QString& event, Handler handler) {
     handlers_.emplace_back(event, std::move(handler));
 }
 
-void ControlWidget::set(StringView name, const Variant& value) {
-    guarded([&] { host_->put(name, value); });
+QVariant ControlWidget::read(StringView property) const {
+    QVariant value;
+    guarded([&] { value = toQVariant(host_->get(property)); });
+    return value;
+}
+
+void ControlWidget::write(StringView property, const QVariant& value) {
+    guarded([&] { host_->put(property, toVariant(value, property)); });
+}
+
+void ControlWidget::reset(StringView property) {
+    guarded([&] {
+        ControlHost other(Components::ofApplication().create(controlClass_));
+        giveAmbient(other);
+        other.open();
+        host_->put(property, other.get(property));
+    });
+}
+
+QVariant ControlWidget::run(StringView method, QVariantList arguments) {
+    QVariant result;
+    guarded([&] { result = qt::call(host_->object(), method, arguments); });
+    return result;
 }
 
 QVariantMap ControlWidget::saveSettings() const {
@@ -204,12 +217,15 @@ void ControlWidget::restoreSettings(const QVariantMap& settings) {
     }
     if (hasFocus()) input(input::FocusIn{});
     update();
+    const QMetaObject& members = *metaObject();
+    for (int i = staticMetaObject.propertyCount(); alive && i < members.propertyCount(); ++i)
+        members.property(i).notifySignal().invoke(this);
 }
 
 void ControlWidget::connectNotify(const QMetaMethod& signal) {
     const String name = toString(QString::fromLatin1(signal.name()));
     for (const EventDescription& event : host_->object().description().events) {
-        if (name != u"raised" && !sameName(event.name, name)) continue;
+        if (name != u"raised" && name != event.name) continue;
         if (std::find(heard_.begin(), heard_.end(), &event) != heard_.end()) continue;
         heard_.push_back(&event);
         listen(*host_, event);
@@ -217,18 +233,30 @@ void ControlWidget::connectNotify(const QMetaMethod& signal) {
 }
 
 void ControlWidget::listen(Host& host, const EventDescription& event) {
-    host.on(event.name, [this, &event](std::span<Variant> arguments) { raise(event, arguments); });
+    host.on(event.name, [this, &event](std::span<Variant> arguments) { hear(event, arguments); });
 }
 
-void ControlWidget::raise(const EventDescription& event, std::span<Variant> arguments) {
+void ControlWidget::hear(const EventDescription& event, std::span<Variant> arguments) {
+    const QPointer<ControlWidget> alive(this);
+    const QString name = toQString(event.name);
     QVariantList copies;
     for (const Variant& argument : arguments)
         copies.append(toQVariant(argument));
-    emit raised(toQString(event.name), copies);
+    raise(event.number, copies);
+    if (alive) emit raised(name, copies);
 }
 
-void ControlWidget::tellChanged(StringView property) {
-    emit propertyChanged(toQString(property));
+void ControlWidget::changed(StringView property) {
+    const QPointer<ControlWidget> alive(this);
+    const String name(property);
+    emit propertyChanged(toQString(name));
+    if (!alive) return;
+    const QMetaObject& members = *metaObject();
+    for (int i = staticMetaObject.propertyCount(); i < members.propertyCount(); ++i)
+        if (sameName(toString(QString::fromLatin1(members.property(i).name())), name)) {
+            members.property(i).notifySignal().invoke(this);
+            return;
+        }
 }
 
 // ---- Input

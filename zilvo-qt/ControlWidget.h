@@ -21,6 +21,9 @@ class AccessibleWidgets;
 /// The constructors, get(), put(), call(), on() and restoreSettings() throw Failures, as in any host; nothing else
 /// does: what fails while an event is handled is told by failed(). A handler of the control may do anything, destroy
 /// this widget included.
+///
+/// A class that is derived for one class of control has a Q_PROPERTY for each of its properties, whose NOTIFY signal is
+/// emitted when the control tells of a change and when other settings are restored.
 class ControlWidget : public QWidget {
     Q_OBJECT
     /// False where the application is designed rather than run.
@@ -75,8 +78,8 @@ signals:
     void raised(const QString& event, const QVariantList& arguments);
     /// The saved settings are out of date because of that property.
     void propertyChanged(const QString& name);
-    /// What a handler of the control, or a property set from a form, failed with; nothing else has changed.
-    void failed(int status, const QString& message);
+    /// What a handler of the control, or a member called through a typed class, failed with; nothing else has changed.
+    void failed(int status, const QString& message) const;
 
 protected:
     bool event(QEvent* event) override;
@@ -97,12 +100,14 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void connectNotify(const QMetaMethod& signal) override;
 
-    /// For the typed classes: sets a property; what that fails with is told by failed().
-    void set(platform::StringView name, const platform::Variant& value);
-    /// For the typed classes: an event has come, and something is connected to the signal of its name or to raised().
-    virtual void raise(const platform::EventDescription& event, std::span<platform::Variant> arguments);
-    /// For the typed classes: the control says that the saved settings are out of date because of that property.
-    virtual void tellChanged(platform::StringView property);
+    // For the typed classes. What a member fails with is told by failed(); what it would have given is then invalid.
+    QVariant read(platform::StringView property) const;
+    void write(platform::StringView property, const QVariant& value);
+    /// Gives the property the value that it has in a new control.
+    void reset(platform::StringView property);
+    QVariant run(platform::StringView method, QVariantList arguments = {});
+    /// Emits the signal of an event, by its number, that something is connected to or to raised().
+    virtual void raise(platform::Long /*event*/, const QVariantList& /*arguments*/) {}
 
 private:
     class Host;
@@ -113,7 +118,12 @@ private:
     void open(const QVariantMap* settings);
     /// Live, with all handlers attached; of its own size unless one is given.
     std::unique_ptr<Host> instance(const QVariantMap* settings, std::optional<QSize> size);
+    /// What a new control takes over from the widget.
+    void giveAmbient(platform::ControlHost& host) const;
     void listen(Host& host, const platform::EventDescription& event);
+    void hear(const platform::EventDescription& event, std::span<platform::Variant> arguments);
+    /// The control says that the saved settings are out of date because of that property.
+    void changed(platform::StringView property);
     void setAmbient(platform::StringView name, const platform::Variant& value);
     /// Null before there is a control.
     AccessibleWidgets* accessibleWidgets() const;
@@ -128,7 +138,7 @@ private:
     void runClock();
     /// Runs what may fail and tells of it. False when it failed or this widget is gone.
     template <class Body>
-    bool guarded(const Body& body);
+    bool guarded(const Body& body) const;
 
     QString controlClass_;
     std::unique_ptr<Host> host_;
