@@ -302,6 +302,7 @@ local function writeClasses()
     header:add("\n} // namespace %s", namespace)
     header:write("Controls.h")
     source:add("\n} // namespace %s", namespace)
+    source:add('\n#include "moc_Controls.cpp"\n#include "moc_Enumerations.cpp"') -- one translation unit for all
     source:write("Controls.cpp")
 end
 
