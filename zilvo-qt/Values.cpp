@@ -93,7 +93,7 @@ QVariant toQVariant(const Variant& given) {
     case Kind::Colour:
         return toQVariant(platform::toColour(value));
     case Kind::Font: {
-        const FontRef font = platform::toFont(value);
+        const FontRef& font = *value.find<FontRef>();
         return font ? QVariant(toQFont(*font)) : QVariant();
     }
     case Kind::BooleanArray:
