@@ -3,6 +3,7 @@
 #include "zilvo/platform/values/Bytes.h"
 
 #include <cstddef>
+#include <span>
 
 namespace zilvo::platform {
 
@@ -27,6 +28,9 @@ public:
     /// Fails with SubscriptOutOfRange outside the picture.
     Pixel at(int x, int y) const { return pixels_[offsetOf(x, y)]; }
     void set(int x, int y, Pixel pixel) { pixels_[offsetOf(x, y)] = pixel; }
+
+    /// All of them, row by row from the top.
+    std::span<const Pixel> pixels() const noexcept { return pixels_; }
 
     /// The device-independent form: a 40-byte header, then the rows from the bottom up in blue, green, red
     /// order, each padded to a multiple of four bytes.

@@ -96,6 +96,9 @@ public:
     /// Greys what is drawn in the area: every other column of pixels in the ground's colour.
     virtual void dim(const Rectangle& area, Colour ground);
 
+    /// How wide the lines of the look are, and how far the two colours of greyed text lie apart.
+    virtual Single lineWidth() const { return TwipsPerPixel; }
+
     /// Until the matching leave(), positions count from the area's corner and nothing is drawn outside it.
     virtual void enter(const Rectangle& area) = 0;
     virtual void leave() = 0;

@@ -154,7 +154,7 @@ void paintLines(Painter& painter, const Layout& layout, const Caption& caption, 
 Rectangle paintCaption(Painter& painter, const Rectangle& area, const CaptionLook& look) {
     const Caption caption = captionOf(look.designed);
     const Layout layout = layOut(painter, area, look, caption.text);
-    if (look.greyed) paintLines(painter, layout, caption, look, colours::ButtonHighlight, TwipsPerPixel);
+    if (look.greyed) paintLines(painter, layout, caption, look, colours::ButtonHighlight, painter.lineWidth());
     paintLines(painter, layout, caption, look, look.greyed ? colours::GreyText : look.colour, 0);
     return layout.bounds;
 }

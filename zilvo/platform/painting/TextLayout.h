@@ -11,7 +11,7 @@ struct CaptionLook {
     Colour colour;
     Alignment across = Alignment::Centre;
     Alignment down = Alignment::Centre;
-    /// Greyed text is embossed: white one pixel to the right and below, grey on top; `colour` is not used.
+    /// Greyed text is embossed: light one pixel to the right and below, grey on top; `colour` is not used.
     bool greyed = false;
     /// Broken at blanks into lines no wider than the area; a word that is wider stays whole. A line feed or
     /// carriage return breaks a line in any case.
