@@ -5,6 +5,7 @@
 #include "zilvo-qt/Calls.h"
 #include "zilvo-qt/Components.h"
 #include "zilvo-qt/Keys.h"
+#include "zilvo-qt/Painter.h"
 #include "zilvo-qt/PopupMenu.h"
 #include "zilvo-qt/WindowKeys.h"
 
@@ -36,6 +37,21 @@ Single twipsOf(int pixels) {
 QSize pixelsOf(const Rectangle& area) {
     const auto side = [](Single twips) { return static_cast<int>(std::ceil((twips - 1) / TwipsPerPixel)); };
     return {side(area.width), side(area.height)};
+}
+
+/// One for all widgets of the application, which keeps it.
+PaintCache& sharedPaintCache() {
+    struct Shared final : QObject {
+        using QObject::QObject;
+        PaintCache cache;
+    };
+    constexpr const char* property = "zilvoPaintCache";
+    auto* shared = static_cast<Shared*>(qApp->property(property).value<QObject*>());
+    if (!shared) {
+        shared = new Shared(qApp);
+        qApp->setProperty(property, QVariant::fromValue<QObject*>(shared));
+    }
+    return shared->cache;
 }
 
 } // namespace
@@ -491,7 +507,10 @@ void ControlWidget::extenderChanged(Aspect aspect) {
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    guarded([&] { painter.fillRect(rect(), palette().window()); });
+    guarded([&] {
+        Painter drawn(painter, sharedPaintCache(), palette(), metrics_);
+        host_->paint(drawn);
+    });
 }
 
 void ControlWidget::widgetChanged(const Widget& /*widget*/, Aspect aspect) noexcept {
@@ -503,6 +522,11 @@ void ControlWidget::widgetChanged(const Widget& /*widget*/, Aspect aspect) noexc
 void ControlWidget::showPopup(Menu& root, Point at) {
     showedPopup_ = true;
     popUp(*this, root, mapToGlobal(toPixels({at.x, at.y, 0, 0}).topLeft().toPoint()));
+}
+
+void ControlWidget::setMetrics(Metrics metrics) {
+    metrics_ = metrics;
+    update();
 }
 
 Point ControlWidget::toTwips(QPointF pixels) {

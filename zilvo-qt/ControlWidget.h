@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zilvo-qt/Typeface.h"
 #include "zilvo-qt/Values.h"
 
 #include "zilvo/platform/component/ControlHost.h"
@@ -56,6 +57,10 @@ public:
 
     bool userMode() const;
     void setUserMode(bool userMode);
+
+    /// Real ones unless the same picture is wanted on every machine.
+    Metrics metrics() const { return metrics_; }
+    void setMetrics(Metrics metrics);
 
     /// Whether a default button of the control is drawn as the window's.
     bool displaysDefault() const;
@@ -148,6 +153,7 @@ private:
     QElapsedTimer sinceClock_;
     qint64 toldTime_ = 0; ///< of sinceClock_, milliseconds
     QSize hint_;
+    Metrics metrics_ = Metrics::Real;
     int wheel_ = 0; ///< eighths of a degree that make no whole step yet
     bool sizing_ = false;
     bool leaves_ = false;      ///< Tab has gone past the last widget

@@ -170,6 +170,7 @@ TEST(ControlWidget, EnterAndEscapeAreTheWindows) {
 
     Hosted alone("Outer"); // is its own window
     alone.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&alone));
     alone.input(input::FocusOn{alone.widget(u"cmdPush", 0)});
     QTest::keyClick(&alone, Qt::Key_Return);
     QTest::keyClick(&alone, Qt::Key_A, Qt::AltModifier);
