@@ -1,15 +1,41 @@
 #include "zilvo-qt/PaintCache.h"
 
+#include "zilvo/platform/values/Status.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
 namespace zilvo::qt {
 
 namespace {
 
 constexpr int TypefacesKept = 48;
-constexpr int PictureKibibytes = 8192;
+constexpr int MarksAndBitmaps = 8 * 1024; ///< KiB
+constexpr int ShownPictures = 32 * 1024;  ///< KiB
+
+int kibibytes(const QImage& picture) {
+    return static_cast<int>(1 + picture.sizeInBytes() / 1024);
+}
 
 } // namespace
 
-PaintCache::PaintCache() : typefaces_(TypefacesKept), pictures_(PictureKibibytes) {}
+qreal uprightScale(const QTransform& toDevice) {
+    const bool isUpright = toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 &&
+                           std::abs(toDevice.m11() - toDevice.m22()) < 1e-6;
+    return isUpright ? toDevice.m11() : 0;
+}
+
+PaintCache::PaintCache(QObject* parent)
+    : QObject(parent), typefaces_(TypefacesKept), pictures_(MarksAndBitmaps), kept_(ShownPictures) {}
+
+PaintCache& PaintCache::ofApplication() {
+    QCoreApplication* application = QCoreApplication::instance();
+    if (!application)
+        throw platform::Failure(platform::Status::UnexpectedCall,
+                                "there is no QApplication yet, or no longer, that could keep what is painted");
+    if (auto* cache = application->findChild<PaintCache*>({}, Qt::FindDirectChildrenOnly)) return *cache;
+    return *new PaintCache(application);
+}
 
 std::shared_ptr<Typeface> PaintCache::typeface(const FontKey& key, const QPaintDevice& device) {
     if (const auto* known = typefaces_.object(key)) return *known;
@@ -19,9 +45,12 @@ std::shared_ptr<Typeface> PaintCache::typeface(const FontKey& key, const QPaintD
 }
 
 QImage PaintCache::keep(const PictureKey& key, const QImage& picture) {
-    const auto cost = static_cast<int>(1 + picture.sizeInBytes() / 1024);
-    pictures_.insert(key, std::make_unique<QImage>(picture).release(), cost);
+    pictures_.insert(key, std::make_unique<QImage>(picture).release(), kibibytes(picture));
     return picture;
+}
+
+void PaintCache::keep(const KeptPicture& owner, const QImage& picture) {
+    kept_.insert(&owner, std::make_unique<QImage>(picture).release(), kibibytes(picture));
 }
 
 const Scheme& PaintCache::scheme(const QPalette& palette) {

@@ -4,17 +4,29 @@
 #include "zilvo-qt/Typeface.h"
 
 #include <QImage>
+#include <QObject>
+#include <QTransform>
 #include <memory>
 
 namespace zilvo::qt {
 
-/// What is costly to find out and the same for all controls: fonts, lines of text, marks, pictures, schemes. One is
-/// shared by all widgets that paint in one thread. What has not been used for longest goes first.
-class PaintCache {
+class KeptPicture;
+
+/// How many pixels of the device a unit is wide and high; 0 when it is turned or stretched.
+qreal uprightScale(const QTransform& toDevice);
+
+/// What is costly to find out and the same for all controls: fonts, lines of text, marks, pictures, schemes; and what
+/// widgets show. Of each kind what has not been used for longest goes first. One is shared by all that paint in one
+/// thread.
+class PaintCache final : public QObject {
+    Q_OBJECT
+
 public:
-    PaintCache();
-    PaintCache(const PaintCache&) = delete;
-    PaintCache& operator=(const PaintCache&) = delete;
+    explicit PaintCache(QObject* parent = nullptr);
+
+    /// One for all widgets, kept by the QCoreApplication and gone with it. Fails with UnexpectedCall while there is no
+    /// application.
+    static PaintCache& ofApplication();
 
     /// A picture by what it is made of: its kind, its size in pixels of the device, colours and contents.
     struct PictureKey {
@@ -40,10 +52,15 @@ public:
     const Scheme& classicScheme() const { return classic_; }
 
 private:
+    friend class KeptPicture;
+
+    void keep(const KeptPicture& owner, const QImage& picture);
     QImage keep(const PictureKey& key, const QImage& picture);
 
     QCache<FontKey, std::shared_ptr<Typeface>> typefaces_;
-    QCache<PictureKey, QImage> pictures_; ///< by KiB
+    // By KiB.
+    QCache<PictureKey, QImage> pictures_;
+    QCache<const KeptPicture*, QImage> kept_;
     Scheme classic_;
     Scheme scheme_;
     qint64 schemeOf_ = 0; ///< a palette's key

@@ -74,14 +74,13 @@ Painter::Painter(QPainter& target, PaintCache& cache, const QPalette& palette, M
     if (!target.isActive()) throw Failure(Status::UnexpectedCall, "the painter is not drawing on anything");
     target.save();
     const QTransform toDevice = target.deviceTransform();
-    const bool isUpright = toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 &&
-                           std::abs(toDevice.m11() - toDevice.m22()) < 1e-6;
-    pitch_ = isUpright ? toDevice.m11() : target.device()->devicePixelRatioF();
+    const qreal scale = uprightScale(toDevice);
+    pitch_ = scale > 0 ? scale : target.device()->devicePixelRatioF();
     line_ = std::max(1, qFloor(pitch_ + 1e-6));
-    // From here on the target's unit is a pixel of the device, counted from the device's corner.
-    target.setWorldTransform(isUpright ? toDevice.inverted() * target.worldTransform()
-                                       : QTransform::fromScale(1 / pitch_, 1 / pitch_) * target.worldTransform());
-    areas_.push_back({isUpright ? QPointF(toDevice.dx(), toDevice.dy()) : QPointF(), Endless});
+    // From here on the target's unit is a pixel of the device; unless it is turned, counted from the device's corner.
+    target.setWorldTransform((scale > 0 ? toDevice.inverted() : QTransform::fromScale(1 / pitch_, 1 / pitch_)) *
+                             target.worldTransform());
+    areas_.push_back({scale > 0 ? QPointF(toDevice.dx(), toDevice.dy()) : QPointF(), Endless});
     if (target.hasClipping()) outerClip_ = target.clipRegion();
     target.setPen(Qt::NoPen);
     target.setBrush(Qt::NoBrush);

@@ -15,9 +15,9 @@ namespace zilvo::qt {
 /// Colours. Those of the system come from the palette. Stated colours stay what was stated, but for one: the light grey
 /// 0x00C0C0C0 was the face of the scheme when the looks were designed, and is the face in a dark palette. What is drawn
 /// on a stated ground that is light although the palette is dark has the system colours of the classic scheme, which
-/// was made for such grounds: a light island, with its own edges and texts. Text stands out from its ground 4.5 to 1,
-/// or as it did in the design if that was less: where the palette's colour does not, the classic one is taken, and a
-/// stated one whose ground has changed is mixed with white or black until it does.
+/// was made for such grounds: a light island, with its own edges and texts. A text that stands out from its ground less
+/// than in the design, and less than 4.5 to 1, is drawn in the classic colour if the system's and if that is better,
+/// else mixed with white or black until it stands out.
 ///
 /// The target's state is as before once the painter is gone; meanwhile nobody else draws with it.
 class Painter final : public platform::Painter {
