@@ -39,21 +39,6 @@ QSize pixelsOf(const Rectangle& area) {
     return {side(area.width), side(area.height)};
 }
 
-/// One for all widgets of the application, which keeps it.
-PaintCache& sharedPaintCache() {
-    struct Shared final : QObject {
-        using QObject::QObject;
-        PaintCache cache;
-    };
-    constexpr const char* property = "zilvoPaintCache";
-    auto* shared = static_cast<Shared*>(qApp->property(property).value<QObject*>());
-    if (!shared) {
-        shared = new Shared(qApp);
-        qApp->setProperty(property, QVariant::fromValue<QObject*>(shared));
-    }
-    return shared->cache;
-}
-
 } // namespace
 
 /// The control's site; with each instance another one.
@@ -72,7 +57,7 @@ private:
     void Beep() override { QApplication::beep(); }
     bool ShowPopup(Menu& root, Point at) override { return widget_.showPopup(root, at), true; }
     bool LeaveFocus(bool /*forward*/) override { return widget_.leaves_ = true; }
-    void ViewChanged() noexcept override { widget_.update(); }
+    void ViewChanged() noexcept override { widget_.viewChanged(); }
     void WidgetChanged(const Widget& widget, Aspect aspect) noexcept override {
         accessible_.widgetChanged(widget, aspect);
         widget_.widgetChanged(widget, aspect);
@@ -232,7 +217,7 @@ void ControlWidget::restoreSettings(const QVariantMap& settings) {
         QAccessible::updateAccessibility(&other);
     }
     if (hasFocus()) input(input::FocusIn{});
-    update();
+    viewChanged();
     const QMetaObject& members = *metaObject();
     for (int i = staticMetaObject.propertyCount(); alive && i < members.propertyCount(); ++i)
         members.property(i).notifySignal().invoke(this);
@@ -458,7 +443,7 @@ void ControlWidget::changeEvent(QEvent* event) {
         break;
     }
     if (!alive) return;
-    update();
+    viewChanged(); // also in another window's colours, when it is no longer the active one
     QWidget::changeEvent(event);
 }
 
@@ -506,15 +491,17 @@ void ControlWidget::extenderChanged(Aspect aspect) {
 // ---- What the control shows
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
+    QPainter target(this);
     guarded([&] {
-        Painter drawn(painter, sharedPaintCache(), palette(), metrics_);
-        host_->paint(drawn);
+        picture_.show(target, size(), [&](QPainter& painter) {
+            Painter control(painter, PaintCache::ofApplication(), palette(), metrics_);
+            host_->paint(control);
+        });
     });
 }
 
 void ControlWidget::widgetChanged(const Widget& /*widget*/, Aspect aspect) noexcept {
-    update();
+    viewChanged();
     if (aspect != Aspect::Default && aspect != Aspect::Enabled && aspect != Aspect::Visible) return;
     if (WindowKeys* keys = WindowKeys::find(*window())) keys->updateDefault();
 }
@@ -526,7 +513,7 @@ void ControlWidget::showPopup(Menu& root, Point at) {
 
 void ControlWidget::setMetrics(Metrics metrics) {
     metrics_ = metrics;
-    update();
+    viewChanged();
 }
 
 Point ControlWidget::toTwips(QPointF pixels) {

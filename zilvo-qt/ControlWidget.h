@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zilvo-qt/Typeface.h"
+#include "zilvo-qt/KeptPicture.h"
 #include "zilvo-qt/Values.h"
 
 #include "zilvo/platform/component/ControlHost.h"
@@ -134,6 +134,10 @@ private:
     AccessibleWidgets* accessibleWidgets() const;
 
     // What the control tells its site.
+    void viewChanged() noexcept {
+        picture_.forget();
+        update();
+    }
     void controlSized();
     void extenderChanged(platform::Aspect aspect);
     void widgetChanged(const platform::Widget& widget, platform::Aspect aspect) noexcept;
@@ -154,6 +158,7 @@ private:
     qint64 toldTime_ = 0; ///< of sinceClock_, milliseconds
     QSize hint_;
     Metrics metrics_ = Metrics::Real;
+    KeptPicture picture_{PaintCache::ofApplication()};
     int wheel_ = 0; ///< eighths of a degree that make no whole step yet
     bool sizing_ = false;
     bool leaves_ = false;      ///< Tab has gone past the last widget
