@@ -494,6 +494,7 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter target(this);
     guarded([&] {
         picture_.show(target, size(), [&](QPainter& painter) {
+            painter.fillRect(rect(), palette().window()); // where the control is smaller
             Painter control(painter, PaintCache::ofApplication(), palette(), metrics_);
             host_->paint(control);
         });

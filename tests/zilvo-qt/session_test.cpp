@@ -176,11 +176,9 @@ TEST_F(Session, TheScreenShowsWhatTheVectorPictureShows) {
         const QImage drawn = QImage::fromData(run("rsvg-convert", {"--zoom", QString::number(ratio)}, document));
         ASSERT_FALSE(drawn.isNull());
         const auto [mean, clearly] = difference(shown, drawn.scaled(shown.size()));
-        EXPECT_LT(mean, 12) << name;
-        EXPECT_LT(clearly, 0.06) << name;
-        printf("%s %g %g\n", name, mean, clearly);
-        if (getenv("KEEP"))
-            hosted.grab().toImage().save(QString("/tmp/%1-painted.png").arg(name)), shown.save(QString("/tmp/%1-shown.png").arg(name)), drawn.save(QString("/tmp/%1-drawn.png").arg(name));
+        // At a scale between the vector picture's lines are not all equally wide.
+        EXPECT_LT(mean, ratio == 1 ? 8 : 15) << name;
+        EXPECT_LT(clearly, ratio == 1 ? 0.03 : 0.07) << name;
     }
 }
 
