@@ -108,6 +108,7 @@ void ControlWidget::open(const QVariantMap* settings) {
     hint_ = pixelsOf(control().surface().area());
     resize(hint_);
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent); // its window then paints nothing else for it
     setSizePolicy(control().ownsWidth() ? QSizePolicy::Fixed : QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
@@ -492,13 +493,15 @@ void ControlWidget::extenderChanged(Aspect aspect) {
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter target(this);
-    guarded([&] {
-        picture_.show(target, size(), [&](QPainter& painter) {
-            painter.fillRect(rect(), palette().window()); // where the control is smaller
-            Painter control(painter, PaintCache::ofApplication(), palette(), metrics_);
-            host_->paint(control);
+    const QPointer<ControlWidget> alive(this);
+    const bool shown = guarded([&] {
+        picture_.show(target, size(), [this](QPainter& picture) {
+            picture.fillRect(rect(), palette().window()); // where the control is smaller
+            Painter painter(picture, PaintCache::ofApplication(), palette(), metrics_);
+            host_->paint(painter);
         });
     });
+    if (alive && !shown) target.fillRect(rect(), palette().window());
 }
 
 void ControlWidget::widgetChanged(const Widget& /*widget*/, Aspect aspect) noexcept {

@@ -20,6 +20,7 @@ void KeptPicture::show(QPainter& target, QSize size, const std::function<void(QP
         painter.end();
         made.setDevicePixelRatio(pitch);
         cache_.keep(*this, made);
+        isKept_ = true;
         kept = &made;
     }
     // From one whole pixel to another, wherever the widget lies.

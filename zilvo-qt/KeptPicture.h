@@ -17,13 +17,16 @@ public:
     ~KeptPicture() { forget(); }
 
     /// Something has changed.
-    void forget() noexcept { cache_.kept_.remove(this); }
+    void forget() noexcept {
+        if (std::exchange(isKept_, false)) cache_.kept_.remove(this);
+    }
     /// Shows it at the target's origin. `paint` is called unless a picture of this size and density of pixels is there;
     /// it draws all of it, in logical pixels, and what it throws leaves no picture.
     void show(QPainter& target, QSize size, const std::function<void(QPainter&)>& paint);
 
 private:
     PaintCache& cache_;
+    bool isKept_ = false; ///< or was, until others needed the place
 };
 
 } // namespace zilvo::qt
