@@ -7,6 +7,8 @@
 #include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QTextLayout>
+#include <algorithm>
+#include <cmath>
 
 namespace zilvo::qt {
 
@@ -31,31 +33,33 @@ QString copyOf(const QString& text) {
 
 struct Substitutes {
     const char* family;
-    std::array<const char*, 3> others;
+    std::array<const char*, 2> others;
 };
 
 /// What stands in for the families that the designs state, the most alike first. Debian has Comic Neue in
 /// fonts-comic-neue, Liberation Sans in fonts-liberation and Nimbus Sans in fonts-urw-base35.
 constexpr std::array Known{
-    Substitutes{"Comic Sans MS", {"Comic Neue", "Comic Relief", "Humor Sans"}},
-    Substitutes{"MS Sans Serif", {"Microsoft Sans Serif", "Arial", "Liberation Sans"}},
-    Substitutes{"Arial Black", {"Archivo Black", "Arial", "Liberation Sans"}},
+    Substitutes{"Comic Sans MS", {"Comic Neue", "Comic Relief"}},
+    Substitutes{"MS Sans Serif", {"Microsoft Sans Serif", "Arial"}},
+    Substitutes{"Arial Black", {"Archivo Black", "Arial"}},
+    Substitutes{"Arial", {"Liberation Sans", "Arimo"}},
 };
-/// For these and for all others.
-constexpr std::array AnySans{"Arial", "Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"};
+/// Behind all of these.
+constexpr std::array AnySans{"Arial", "Liberation Sans", "Arimo", "Nimbus Sans"};
 
-/// Those that are installed; the toolkit's own choice where none is.
+/// Those that are installed; for other names, which may stand for a choice of the user, what the toolkit takes for
+/// them.
 QStringList familiesFor(const QString& name) {
-    QStringList wanted{name};
-    for (const Substitutes& each : Known)
-        if (name.compare(QLatin1String(each.family), Qt::CaseInsensitive) == 0)
-            for (const char* other : each.others)
-                wanted += QLatin1String(other);
-    for (const char* other : AnySans)
-        wanted += QLatin1String(other);
+    const auto known = std::find_if(Known.begin(), Known.end(), [&name](const Substitutes& each) {
+        return name.compare(QLatin1String(each.family), Qt::CaseInsensitive) == 0;
+    });
+    if (known == Known.end() || QFontDatabase::hasFamily(name)) return {name};
     QStringList installed;
-    for (const QString& family : wanted)
-        if (QFontDatabase::hasFamily(family) && !installed.contains(family)) installed += family;
+    const auto add = [&installed](const char* family) {
+        if (QFontDatabase::hasFamily(QLatin1String(family))) installed += QLatin1String(family);
+    };
+    std::for_each(known->others.begin(), known->others.end(), add);
+    std::for_each(AnySans.begin(), AnySans.end(), add);
     return installed.isEmpty() ? QStringList{name} : installed;
 }
 
@@ -108,7 +112,9 @@ Typeface::Typeface(const FontKey& key, const QPaintDevice& device) : key_(key.ke
         constexpr StringView sample = u"The quick brown fox jumps over 1234567890 lazy dogs";
         const qreal designed = qreal{textWidth(sample, look)} / TwipsPerPixel * key.pitch;
         const qreal natural = QFontMetricsF(font_).horizontalAdvance(shared(sample));
-        if (natural > designed && designed > 0) font_.setStretch(std::max(50, qFloor(100 * designed / natural)));
+        constexpr qreal noticeably = 1.02;
+        if (natural > designed * noticeably && designed > 0)
+            font_.setStretch(std::max(50, qFloor(100 * designed / natural)));
         return;
     }
     const QFontMetricsF metrics(font_);

@@ -1,6 +1,9 @@
 #include "zilvo-qt/Painter.h"
+#include "zilvo-qt/Values.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -126,8 +129,9 @@ TEST(Painter, StatedColoursStayButForTheFaceOfTheDesigns) {
 TEST(Painter, TextTakesItsWidthFromTheFontOrTheFontFromItsWidth) {
     for (const qreal scale : Scales) {
         Canvas real(scale);
-        const QFont font("Arial", 24);
-        const FontLook look{u"Arial", 24, 400, false, false, false};
+        const QFont font(QFontInfo(QGuiApplication::font()).family(), 24); // one that is there
+        const String name = toString(font.family());
+        const FontLook look{name, 24, 400, false, false, false};
         EXPECT_NEAR(real->measure(u"Width", look), QFontMetricsF(font).horizontalAdvance("Width") * 15, 60) << scale;
         Canvas fitted(scale, QPalette(), Metrics::BuiltIn);
         EXPECT_EQ(fitted->measure(u"Width", look), textWidth(u"Width", look));
