@@ -26,6 +26,7 @@ public:
 
 private:
     PaintCache& cache_;
+    QPointF offset_;      ///< of the origin from a whole pixel, when it was painted
     bool isKept_ = false; ///< or was, until others needed the place
 };
 

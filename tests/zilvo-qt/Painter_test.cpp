@@ -1,3 +1,4 @@
+#include "zilvo-qt/KeptPicture.h"
 #include "zilvo-qt/Painter.h"
 #include "zilvo-qt/Values.h"
 
@@ -192,6 +193,36 @@ TEST(Painter, DrawsFromTheOriginOfItsTargetAndLeavesItAsItWas) {
     EXPECT_EQ(QColor(image.pixel(14, 8)), Qt::white) << "what it was clipped to";
     QPainter none;
     EXPECT_THROW(Painter(none, cache, QPalette()), Failure);
+}
+
+TEST(KeptPicture, IsPaintedAnewOnlyWhenSomethingHasChanged) {
+    PaintCache cache;
+    KeptPicture picture(cache);
+    QImage image(100, 40, QImage::Format_RGB32);
+    int painted = 0;
+    const auto show = [&](qreal scale, QColor colour) {
+        QPainter target(&image);
+        target.translate(10, 5);
+        target.scale(scale, scale);
+        picture.show(target, {8, 4}, [&](QPainter& painter) {
+            ++painted;
+            if (!colour.isValid()) throw Failure(Status::UnexpectedCall, "");
+            painter.fillRect(0, 0, 8, 4, colour);
+        });
+    };
+    image.fill(Qt::white);
+    show(1.25, Qt::red);
+    show(1.25, Qt::green);
+    EXPECT_EQ(painted, 1);
+    EXPECT_EQ(image.pixel(10, 5), Red);
+    EXPECT_EQ(image.pixel(19, 9), Red) << "ten pixels by five";
+    EXPECT_EQ(QColor(image.pixel(20, 5)), Qt::white);
+    show(2, Qt::red);
+    EXPECT_EQ(painted, 2) << "for other pixels";
+    picture.forget();
+    EXPECT_THROW(show(2, QColor()), Failure);
+    show(2, Qt::blue);
+    EXPECT_EQ(QColor(image.pixel(10, 5)), Qt::blue);
 }
 
 } // namespace
