@@ -150,6 +150,7 @@ private:
     bool guarded(const Body& body) const;
 
     QString controlClass_;
+    KeptPicture picture_{PaintCache::ofApplication()}; ///< stays while the control goes and still tells of changes
     std::unique_ptr<Host> host_;
     std::vector<std::pair<QString, Handler>> handlers_;
     std::vector<const platform::EventDescription*> heard_; ///< events with a signal that is connected
@@ -158,7 +159,6 @@ private:
     qint64 toldTime_ = 0; ///< of sinceClock_, milliseconds
     QSize hint_;
     Metrics metrics_ = Metrics::Real;
-    KeptPicture picture_{PaintCache::ofApplication()};
     int wheel_ = 0; ///< eighths of a degree that make no whole step yet
     bool sizing_ = false;
     bool leaves_ = false;      ///< Tab has gone past the last widget
