@@ -70,9 +70,8 @@ void CommandButton::paint(Painter& painter) const {
     Rectangle text;
     {
         const PaintedArea shown(painter, face);
-        text =
-            paintCaption(painter, {inner.left - face.left, inner.top - face.top, inner.width, inner.height},
-                         {.designed = caption(), .font = font(), .colour = get_ForeColor(), .greyed = isGreyed()});
+        text = paintCaption(painter, {inner.left - face.left, inner.top - face.top, inner.width, inner.height},
+                            {.designed = caption(), .font = font(), .colour = get_ForeColor(), .greyed = isGreyed()});
     }
     // A caption as wide as the face leaves the frame no place but the bevel.
     const bool isFull = text.width > inner.width - 2 * TwipsPerPixel;

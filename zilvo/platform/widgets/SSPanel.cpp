@@ -30,12 +30,9 @@ const ClassDescription& SSPanel::description() const noexcept {
 void SSPanel::paint(Painter& painter) const {
     const Rectangle area = drawnArea();
     painter.rectangle(area, {.fill = get_BackColor(), .stroke = std::nullopt});
-    paintCaption(painter, area.inset(2 * TwipsPerPixel),
-                 {.designed = caption(),
-                  .font = font(),
-                  .colour = get_ForeColor(),
-                  .down = captionDown_,
-                  .greyed = isGreyed()});
+    paintCaption(
+        painter, area.inset(2 * TwipsPerPixel),
+        {.designed = caption(), .font = font(), .colour = get_ForeColor(), .down = captionDown_, .greyed = isGreyed()});
 }
 
 void SSPanel::paintEdge(Painter& painter) const {
