@@ -135,7 +135,8 @@ private:
 
     // What the control tells its site.
     void viewChanged() noexcept {
-        picture_.forget();
+        if (picture_.isStale()) return; // to be painted already, which takes the toolkit long to find out among many
+        picture_.makeStale();
         update();
     }
     void controlSized();

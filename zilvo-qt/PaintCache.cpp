@@ -49,8 +49,11 @@ QImage PaintCache::keep(const PictureKey& key, const QImage& picture) {
     return picture;
 }
 
-void PaintCache::keep(const KeptPicture& owner, const QImage& picture) {
-    kept_.insert(&owner, std::make_unique<QImage>(picture).release(), kibibytes(picture));
+QImage* PaintCache::keep(const KeptPicture& owner, QSize pixels) {
+    auto picture = std::make_unique<QImage>(pixels, QImage::Format_RGB32);
+    const auto cost = kibibytes(*picture);
+    QImage* kept = picture.release(); // the cache's own, which deletes at once what is too large
+    return kept_.insert(&owner, kept, cost) ? kept : nullptr;
 }
 
 const Scheme& PaintCache::scheme(const QPalette& palette) {

@@ -54,7 +54,8 @@ public:
 private:
     friend class KeptPicture;
 
-    void keep(const KeptPicture& owner, const QImage& picture);
+    /// An empty picture; null for one larger than all that is kept.
+    QImage* keep(const KeptPicture& owner, QSize pixels);
     QImage keep(const PictureKey& key, const QImage& picture);
 
     QCache<FontKey, std::shared_ptr<Typeface>> typefaces_;

@@ -219,7 +219,7 @@ TEST(KeptPicture, IsPaintedAnewOnlyWhenSomethingHasChanged) {
     EXPECT_EQ(QColor(image.pixel(20, 5)), Qt::white);
     show(2, Qt::red);
     EXPECT_EQ(painted, 2) << "for other pixels";
-    picture.forget();
+    picture.makeStale();
     EXPECT_THROW(show(2, QColor()), Failure);
     show(2, Qt::blue);
     EXPECT_EQ(QColor(image.pixel(10, 5)), Qt::blue);
