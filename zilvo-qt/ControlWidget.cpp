@@ -62,7 +62,9 @@ private:
         accessible_.widgetChanged(widget, aspect);
         widget_.widgetChanged(widget, aspect);
     }
-    void ExtenderChanged(Aspect aspect) override { widget_.extenderChanged(aspect); }
+    void ExtenderChanged(Aspect aspect) override {
+        if (widget_.host_.get() == this) widget_.extenderChanged(aspect); // else once it is the widget's
+    }
 
     ControlWidget& widget_;
     AccessibleWidgets accessible_{widget_, control()};
@@ -105,6 +107,7 @@ ControlWidget::~ControlWidget() = default;
 void ControlWidget::open(const QVariantMap* settings) {
     installAccessibleControls();
     host_ = instance(settings, {});
+    followExtender();
     hint_ = pixelsOf(control().surface().area());
     resize(hint_);
     setFocusPolicy(Qt::StrongFocus);
@@ -115,6 +118,11 @@ void ControlWidget::open(const QVariantMap* settings) {
 std::unique_ptr<ControlWidget::Host> ControlWidget::instance(const QVariantMap* settings, std::optional<QSize> size) {
     auto host = std::make_unique<Host>(*this, Components::ofApplication().create(controlClass_));
     giveAmbient(*host);
+    Extender& extender = host->extenderObject();
+    extender.put_Left(twipsOf(x()));
+    extender.put_Top(twipsOf(y()));
+    extender.put_Enabled(isEnabled());
+    if (host_) extender.put_Visible(host_->extenderObject().get_Visible());
     for (const auto& [event, handler] : handlers_)
         host->on(toString(event), handler);
     for (const EventDescription* event : heard_)
@@ -213,6 +221,7 @@ void ControlWidget::restoreSettings(const QVariantMap& settings) {
     clock_.stop();
     host_.swap(host);
     host.reset();
+    followExtender();
     if (QAccessible::isActive()) {
         QAccessibleEvent other(this, QAccessible::ObjectReorder);
         QAccessible::updateAccessibility(&other);
@@ -479,6 +488,13 @@ void ControlWidget::controlSized() {
     updateGeometry();
     const Sizing sizing(*this);
     resize(own);
+}
+
+/// What the control did to its extender while it was new or loading. A widget is shown by its host, and not by this.
+void ControlWidget::followExtender() {
+    if (!host_->extenderObject().get_Visible()) setVisible(false);
+    extenderChanged(Aspect::Enabled);
+    extenderChanged(Aspect::Place);
 }
 
 void ControlWidget::extenderChanged(Aspect aspect) {

@@ -140,6 +140,7 @@ private:
         update();
     }
     void controlSized();
+    void followExtender();
     void extenderChanged(platform::Aspect aspect);
     void widgetChanged(const platform::Widget& widget, platform::Aspect aspect) noexcept;
     void showPopup(platform::Menu& root, platform::Point at);

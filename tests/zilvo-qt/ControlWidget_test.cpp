@@ -281,6 +281,13 @@ TEST(ControlWidget, IsShownEnabledAndPlacedAsAWhole) {
     form.show();
     form.setEnabled(false);
     EXPECT_FALSE(small.input(input::Act{small.widget(u"ssoPick", 1)}));
+    small.hide();
+    small.restoreSettings({});
+    EXPECT_EQ(small.get("Shown"), false) << "another control is where and as this one was";
+    small.show();
+    EXPECT_FALSE(small.input(input::Act{small.widget(u"ssoPick", 1)}));
+    const Hosted late("Small", &form);
+    EXPECT_FALSE(late.control().surface().acceptsInput());
     form.setEnabled(true);
     EXPECT_TRUE(small.input(input::Act{small.widget(u"ssoPick", 1)}));
 }
