@@ -391,9 +391,9 @@ bool ControlWidget::event(QEvent* event) {
     case QEvent::ToolTip: {
         const auto* help = static_cast<QHelpEvent*>(event);
         const Point at = toTwips(help->pos());
-        const Hit hit = control().surface().hitTest(at);
-        const QString text = hit.widget ? toQString(hit.widget->get_ToolTipText()) : QString();
+        const QString text = toQString(toolTipAt(control(), at));
         if (text.isEmpty()) break; // the widget's own, if it has one
+        const Hit hit = control().surface().hitTest(at);
         const Rectangle& bounds = hit.widget->bounds();
         QToolTip::showText(help->globalPos(), text, this,
                            toPixels({at.x - hit.at.x, at.y - hit.at.y, bounds.width, bounds.height}).toAlignedRect());

@@ -79,7 +79,8 @@ public:
     static QRectF toPixels(const platform::Rectangle& twips);
 
 signals:
-    /// Any event of the control, with copies of its arguments, after the handlers attached with on().
+    /// Any event of the control, with copies of its arguments. Signals and handlers of on() come in the order of their
+    /// first connection.
     void raised(const QString& event, const QVariantList& arguments);
     /// The saved settings are out of date because of that property.
     void propertyChanged(const QString& name);
