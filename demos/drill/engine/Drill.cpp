@@ -1,7 +1,7 @@
 #include "demos/drill/engine/Drill.h"
 
+#include <algorithm>
 #include <stdexcept>
-#include <utility>
 
 namespace drill {
 
@@ -11,53 +11,57 @@ void require(bool met, int value, const char* what) {
     if (!met) throw std::invalid_argument(std::to_string(value) + what);
 }
 
-Settings checked(Settings settings) {
+const Settings& checked(const Settings& settings) {
     check(settings);
     return settings;
 }
 
 } // namespace
 
+int cardsPerMinute(Pace pace) {
+    constexpr int perMinute[] = {30, 45, 60, 90, 120, 180};
+    return perMinute[std::ranges::find(Paces, pace) - std::begin(Paces)];
+}
+
 void check(const Settings& settings) {
-    checkDecks(settings.decks);
-    require(!settings.seats.empty(), 0, " seats: at least one is occupied");
-    for (const int seat : settings.seats)
-        require(seat >= 1 && seat <= 7, seat, " is no seat: the arc has 1 to 7");
-    require(settings.cardsEach >= 1, settings.cardsEach, " cards each: at least one is dealt");
-    require(settings.played >= PlayedCards::ToDiscardTray && settings.played <= PlayedCards::ToShoe,
-            static_cast<int>(settings.played), " is no place for played cards");
-    require(settings.cut >= 0 && settings.cut < settings.decks * CardsPerDeck, settings.cut,
-            " cards cannot lie behind the cut card");
+    constexpr SeatSet all = (1 << (Seats + 1)) - 2;
+    const auto& [decks, shuffle, seat, spread, others, played, pace] = settings;
+    checkDecks(decks);
+    require(seat >= 1 && seat <= Seats, seat, " is no seat: the arc has 1 to 7");
+    for (const SeatSet seats : {spread, others})
+        require((seats & ~all) == 0 && !contains(seats, seat), seats, " is no set of the other seats");
+    require((spread & others) == 0, spread & others, " are seats that are taken twice");
+    require(played >= PlayedCards::ToDiscardTray && played <= PlayedCards::ToShoe, static_cast<int>(played),
+            " is no place for played cards");
+    require(std::ranges::count(Paces, pace) == 1, static_cast<int>(pace), " is no pace");
 }
 
-Drill::Drill(Settings settings)
-    : settings_(checked(std::move(settings))), shoe_(settings_.decks, settings_.shuffle, settings_.seed) {}
-
-std::span<const DealtCard> Drill::dealRound() {
-    if (isOver()) return {};
-    if (settings_.played == PlayedCards::ToShoe && !dealt_.empty()) {
-        shoe_.takeBack();
-        runningCount_ = 0;
+Drill::Drill(const Settings& settings, std::uint64_t seed)
+    : settings_(checked(settings)), seed_(seed), shoe_(settings.decks, settings.shuffle, seed) {
+    for (int pass = 0; pass < 2; ++pass) {
+        for (int seat = 1; seat <= Seats; ++seat)
+            if (settings.isTaken(seat)) round_.push_back(seat);
+        round_.push_back(DealtCard::Dealer);
     }
-    const std::size_t roundBegin = dealt_.size();
-    if (settings_.played != PlayedCards::ToTable) tableBegin_ = roundBegin;
-    for (int pass = 0; pass < settings_.cardsEach && shoe_.left() > 0; ++pass) {
-        for (const int seat : settings_.seats)
-            dealTo(seat);
-        dealTo(DealtCard::Dealer);
-    }
-    return dealt().subspan(roundBegin);
-}
-
-void Drill::dealTo(int place) {
-    if (shoe_.left() == 0) return;
-    const Card card = shoe_.draw();
-    runningCount_ += tag(card);
-    dealt_.push_back({card, place, runningCount(), trueCount()});
 }
 
 bool Drill::isOver() const {
-    return settings_.played != PlayedCards::ToShoe && shoe_.left() <= settings_.cut;
+    if (shoe_.left() == 0) return true;
+    return next_ == 0 && settings_.played != PlayedCards::ToShoe && shoe_.left() <= settings_.decks * CardsPerDeck / 4;
+}
+
+const DealtCard& Drill::deal() {
+    int count = runningCount();
+    if (next_ == 0 && settings_.played == PlayedCards::ToShoe && !dealt_.empty()) {
+        shoe_.takeBack();
+        count = 0;
+    }
+    if (next_ == 0 && settings_.played != PlayedCards::ToTable) tableBegin_ = dealt_.size();
+    const Card card = shoe_.draw();
+    count += tag(card);
+    dealt_.push_back({card, round_[next_], count, trueCount(count, shoe_.left())});
+    next_ = (next_ + 1) % round_.size();
+    return dealt_.back();
 }
 
 std::span<const DealtCard> Drill::inDiscardTray() const {
@@ -65,12 +69,7 @@ std::span<const DealtCard> Drill::inDiscardTray() const {
 }
 
 Result Drill::check(int answer, std::int64_t when) const {
-    return {.when = when,
-            .decks = settings_.decks,
-            .shuffle = settings_.shuffle,
-            .cards = static_cast<int>(dealt_.size()),
-            .answer = answer,
-            .count = runningCount()};
+    return {when, settings_, seed_, static_cast<int>(dealt_.size()), answer, runningCount()};
 }
 
 } // namespace drill

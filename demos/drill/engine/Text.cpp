@@ -20,24 +20,29 @@ const auto& names(PlayedCards) {
     return all;
 }
 
-/// The fields of a line in their order, for writing and reading alike.
-void eachField(Result& result, auto& visit) {
-    visit("when", result.when);
-    visit("decks", result.decks);
-    visit("shuffle", result.shuffle);
-    visit("cards", result.cards);
-    visit("answer", result.answer);
-    visit("count", result.count);
+const auto& names(Pace) {
+    static constexpr std::array<std::string_view, 6> all{"slow", "easy", "fast", "fastest", "steady", "brisk"};
+    return all;
 }
 
+/// The fields of a line in their order, for writing and reading alike.
 void eachField(Settings& settings, auto& visit) {
     visit("decks", settings.decks);
     visit("shuffle", settings.shuffle);
-    visit("seats", settings.seats);
-    visit("each", settings.cardsEach);
+    visit("seat", settings.seat);
+    visit("spread", settings.spread);
+    visit("others", settings.others);
     visit("played", settings.played);
-    visit("cut", settings.cut);
-    visit("seed", settings.seed);
+    visit("pace", settings.pace);
+}
+
+void eachField(Result& result, auto& visit) {
+    visit("when", result.when);
+    eachField(result.settings, visit);
+    visit("seed", result.seed);
+    visit("cards", result.cards);
+    visit("answer", result.answer);
+    visit("count", result.count);
 }
 
 struct Writer {
@@ -49,10 +54,6 @@ struct Writer {
     }
 
     void write(std::integral auto number) { line += std::to_string(number); }
-    void write(const std::set<int>& seats) {
-        for (const int seat : seats)
-            line += (line.back() == '=' ? "" : ",") + std::to_string(seat);
-    }
     void write(auto member) { line += names(member).at(static_cast<std::size_t>(member)); }
 
     std::string line;
@@ -74,11 +75,6 @@ struct Reader {
     static void read(std::string_view text, std::integral auto& number) {
         std::from_chars(text.data(), text.data() + text.size(), number);
     }
-    static void read(std::string_view text, std::set<int>& seats) {
-        seats.clear();
-        for (int seat = 0; !text.empty(); seats.insert(seat))
-            read(take(text, ','), seat);
-    }
     template <typename Member>
     static void read(std::string_view text, Member& member) {
         const auto found = std::ranges::find(names(member), text);
@@ -89,7 +85,7 @@ struct Reader {
 };
 
 void check(const Result& result) {
-    checkDecks(result.decks);
+    check(result.settings);
     if (result.cards < 0) throw std::invalid_argument("fewer than no cards");
 }
 

@@ -17,13 +17,12 @@ public:
     const std::size_t number;
 };
 
-/// Each is one line, its end included, and throws std::out_of_range for a value that is no member of its enumeration.
-/// The first is for the end of a results file:
-/// "when=1262304000 decks=6 shuffle=random cards=104 answer=-3 count=-4".
-std::string text(const Result& result);
-
-/// "decks=6 shuffle=random seats=1,3,7 each=2 played=tray cut=52 seed=42".
+/// Each is one line, its end included, and throws std::out_of_range for a value that is no member of its enumeration:
+/// "decks=6 shuffle=random seat=4 spread=40 others=2 played=tray pace=steady".
 std::string text(const Settings& settings);
+
+/// For the end of a results file: the same between "when=1262304000" and "seed=42 cards=104 answer=-3 count=-4".
+std::string text(const Result& result);
 
 /// Both throw DamagedLine for the first line that differs by so much as a letter from what text makes of the values
 /// read from it, or whose values cannot be: a line without its end is half a line, and an unknown field is not passed
