@@ -130,8 +130,9 @@ QAccessible::State AccessibleWidgets::Object::state() const {
     state.disabled = !is.enabled || !host.isEnabled();
     state.invisible = !is.shown || !host.isVisible();
     state.offscreen = is.shown && rect().isEmpty();
-    state.focusable = is.focusable && !state.disabled;
-    state.focused = is.focused && host.hasFocus();
+    const bool keyboardActs = &widget_ == host.keyboardWidget();
+    state.focusable = (is.focusable || keyboardActs) && !state.disabled;
+    state.focused = keyboardActs && host.hasFocus();
     state.pressed = is.pressed;
     state.defaultButton = is.isDefault;
     state.checkable = is.checked.has_value();
@@ -150,7 +151,7 @@ QStringList AccessibleWidgets::Object::actionNames() const {
         if (widget_.checked()) names += toggleAction();
         names += pressAction();
     }
-    if (widget_.takesFocus()) names += setFocusAction();
+    if (widget_.takesFocus() || &widget_ == widgets_.host_.keyboardWidget()) names += setFocusAction();
     return names;
 }
 
@@ -200,6 +201,10 @@ AccessibleWidgets::~AccessibleWidgets() {
         }
         QAccessible::deleteAccessibleInterface(id);
     }
+}
+
+QAccessibleInterface* AccessibleWidgets::focus() {
+    return of(host_.keyboardWidget());
 }
 
 QAccessibleInterface* AccessibleWidgets::of(const Widget* widget) {
@@ -301,6 +306,7 @@ void AccessibleWidgets::changed(const Widget& widget, Aspect aspect) const {
             tell(*inner, accessible::stateOf(*inner).shown ? QAccessible::ObjectShow : QAccessible::ObjectHide);
         for (const Widget& other : widget.surface())
             if (widget.isInGroupWith(other)) tell(other, QAccessible::DescriptionChanged); // its place among them
+        if (widget.role() == Role::PictureButton) tellFocusSoon();                         // which may be another now
         return;
     case Aspect::Place:
         for (const Widget* inner : knownIn(widget))

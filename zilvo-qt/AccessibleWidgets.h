@@ -28,7 +28,7 @@ public:
     /// That of the children which the pointer meets at a point of the screen, itself or in it; null for none.
     QAccessibleInterface* childAt(const platform::Widget* parent, QPoint at);
     /// The one with the keyboard; null for none.
-    QAccessibleInterface* focus() { return of(control_.focus()); }
+    QAccessibleInterface* focus();
 
     /// Tells those who listen, of what they have asked about; costs a branch while nobody does.
     void widgetChanged(const platform::Widget& widget, platform::Aspect aspect) const {

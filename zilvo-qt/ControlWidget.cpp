@@ -19,6 +19,7 @@
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
+#include <QStyleOption>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -157,6 +158,16 @@ void ControlWidget::giveAmbient(ControlHost& host) const {
 
 HostedControl& ControlWidget::control() const {
     return host_->control();
+}
+
+Widget* ControlWidget::keyboardWidget() const {
+    if (Widget* focus = control().focus()) return focus;
+    Widget* picture = nullptr;
+    for (Widget& widget : control().surface()) {
+        if (widget.takesFocus()) return nullptr;
+        if (!picture && widget.role() == Role::PictureButton && widget.acceptsInput()) picture = &widget;
+    }
+    return picture;
 }
 
 QVariant ControlWidget::get(const QString& name) const {
@@ -354,7 +365,9 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
     // Letters with Alt are the window's affair.
     const bool isOwn = key && (key->key != input::Key::Character || (key->shift & input::AltMask) == 0);
     showedPopup_ = false;
-    event->setAccepted(isOwn && input(*key));
+    Widget* const picture = control().focus() ? nullptr : keyboardWidget();
+    const bool clicks = isOwn && picture && key->key == input::Key::Space && key->shift == 0;
+    event->setAccepted(isOwn && (clicks ? input(input::Invoke{*picture}) : input(*key)));
 }
 
 bool ControlWidget::focusNextPrevChild(bool next) {
@@ -374,15 +387,17 @@ void ControlWidget::focusInEvent(QFocusEvent* event) {
     if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ShortcutFocusReason) return;
     const QPointer<ControlWidget> alive(this);
     input(input::FocusIn{!byTab ? input::Entry::Same : forward ? input::Entry::First : input::Entry::Last});
-    if (!alive || !byTab || passesOn_ || control().focus()) return;
+    if (alive) viewChanged();
+    if (!alive || !byTab || passesOn_ || keyboardWidget()) return;
     passesOn_ = true;
     QWidget::focusNextPrevChild(forward);
     if (alive) passesOn_ = false;
 }
 
 void ControlWidget::focusOutEvent(QFocusEvent* event) {
-    // A menu gives it back.
-    if (event->reason() != Qt::PopupFocusReason) input(input::FocusOut{});
+    if (event->reason() == Qt::PopupFocusReason) return; // a menu gives it back
+    viewChanged();
+    input(input::FocusOut{});
 }
 
 bool ControlWidget::event(QEvent* event) {
@@ -515,6 +530,10 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
             picture.fillRect(rect(), palette().window()); // where the control is smaller
             Painter painter(picture, PaintCache::ofApplication(), palette(), metrics_);
             host_->paint(painter);
+            if (!hasFocus() || control().focus() || !keyboardWidget()) return;
+            QStyleOptionFocusRect frame;
+            frame.initFrom(this);
+            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &picture, this);
         });
     });
     if (alive && !shown) target.fillRect(rect(), palette().window());

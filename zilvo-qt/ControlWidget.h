@@ -69,6 +69,10 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// What the keyboard acts on in this widget while that has it: the control's own focus or, where nothing on the
+    /// control ever takes it, the picture that a click can meet, which Space then clicks. Null for none.
+    platform::Widget* keyboardWidget() const;
+
     /// The control itself, for what its widgets show; never kept, since another may take its place.
     platform::HostedControl& control() const;
     /// Hands the control an input; true when it acted on it. A handler may destroy this widget meanwhile.

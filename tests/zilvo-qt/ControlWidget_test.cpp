@@ -2,6 +2,7 @@
 
 #include "zilvo/platform/widgets/SpinButton.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -110,6 +111,29 @@ TEST(ControlWidget, TabGoesThroughAndOutAtBothEnds) {
     EXPECT_NE(only.focused(), last);
     QTest::keyClick(&only, Qt::Key_Tab, Qt::ShiftModifier);
     EXPECT_EQ(only.focused(), last) << "goes round";
+}
+
+TEST(ControlWidget, APictureIsClickedWithSpaceWhereNothingElseTakesTheKeyboard) {
+    Shown form;
+    auto& edit = form.add<QLineEdit>();
+    auto& sign = form.add<Hosted>("PlusMinusButton");
+    form.add<Hosted>("LetterButton"); // which cannot be clicked
+    form.open();
+    const QImage before = sign.grab().toImage();
+    edit.setFocus();
+    QTest::keyClick(&edit, Qt::Key_Tab);
+    ASSERT_TRUE(sign.hasFocus());
+    EXPECT_NE(sign.grab().toImage(), before) << "shows that it has the keyboard";
+    const QAccessibleInterface* object = QAccessible::queryAccessibleInterface(&sign);
+    EXPECT_EQ(object->focusChild()->text(QAccessible::Name), "Plus");
+    EXPECT_TRUE(object->focusChild()->state().focused && object->focusChild()->state().focusable);
+    QTest::keyClick(&sign, Qt::Key_Space);
+    EXPECT_EQ(object->focusChild()->text(QAccessible::Name), "Minus");
+    QTest::keyClick(&sign, Qt::Key_Space);
+    EXPECT_EQ(sign.heard(), "WasClicked(3) WasClicked(2)");
+    QTest::keyClick(&sign, Qt::Key_Tab);
+    EXPECT_TRUE(edit.hasFocus());
+    EXPECT_EQ(sign.grab().toImage(), before);
 }
 
 TEST(ControlWidget, KeysActOrGoOnToTheForm) {
