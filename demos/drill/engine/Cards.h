@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,7 +13,7 @@ struct Card {
     Rank rank;
     Suit suit;
 
-    friend auto operator<=>(const Card&, const Card&) = default;
+    friend bool operator==(const Card&, const Card&) = default;
 };
 
 /// A pile, the top card first.

@@ -1,0 +1,91 @@
+#include "demos/drill/Window.h"
+
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QRandomGenerator>
+#include <QVBoxLayout>
+
+namespace drill {
+
+Window::Window(const Options& options)
+    : message_(new QLabel),
+      store_(options.folder, [this](const QString& message) { tell(message); }),
+      seed_(options.seed),
+      pages_(new QStackedWidget),
+      setup_(new SetupPage),
+      table_(new TablePage),
+      result_(new ResultPage) {
+    setWindowTitle(tr("Count drill"));
+    message_->setWordWrap(true);
+    message_->setTextFormat(Qt::PlainText);
+    message_->hide();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(message_);
+    layout->addWidget(pages_);
+    for (QWidget* page : {static_cast<QWidget*>(setup_), static_cast<QWidget*>(table_), static_cast<QWidget*>(result_)})
+        pages_->addWidget(page);
+
+    connect(setup_, &SetupPage::accepted, this, [this] {
+        table_->setSettings(setup_->settings());
+        store_.save(setup_->settings());
+        showTable();
+    });
+    connect(setup_, &SetupPage::rejected, this, &Window::showTable);
+    connect(table_, &TablePage::setUpWanted, this, [this] {
+        setup_->setSettings(table_->settings());
+        pages_->setCurrentWidget(setup_);
+    });
+    connect(table_, &TablePage::startWanted, this, &Window::deal);
+    connect(table_, &TablePage::answered, this, [this](const Drill& drill, const Result& result) {
+        result_->setResults(store_.add(result));
+        pages_->setCurrentWidget(result_);
+        result_->setDrill(drill, result);
+    });
+    connect(table_, &TablePage::resultsWanted, this, [this] {
+        result_->setResults(store_.results());
+        pages_->setCurrentWidget(result_);
+        result_->setNoDrill();
+    });
+    connect(result_, &ResultPage::againWanted, this, [this](const Settings& settings, std::uint64_t seed) {
+        again_ = seed;
+        table_->setSettings(settings);
+        showTable();
+    });
+    connect(result_, &ResultPage::tableWanted, this, &Window::showTable);
+
+    Settings settings = store_.settings();
+    if (options.decks) settings.decks = *options.decks;
+    table_->setSettings(settings);
+    setup_->setSettings(settings);
+}
+
+void Window::tell(const QString& message) {
+    message_->setText(message_->text().isEmpty() ? message : message_->text() + '\n' + message);
+    message_->show();
+    QAccessibleEvent alert(message_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void Window::showTable() {
+    pages_->setCurrentWidget(table_);
+}
+
+void Window::deal() {
+    message_->hide();
+    message_->clear();
+    store_.save(table_->settings());
+    table_->deal(again_ ? *std::exchange(again_, {}) : seed_ ? (*seed_)++ : QRandomGenerator::system()->generate64());
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+    if (!table_->isInDrill()) return event->accept();
+    table_->pause();
+    const auto answer =
+        QMessageBox::question(this, windowTitle(), tr("Leave in the middle of a drill? It will not be counted."),
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    event->setAccepted(answer == QMessageBox::Yes);
+    if (answer == QMessageBox::No) table_->resume();
+}
+
+} // namespace drill
