@@ -78,7 +78,8 @@ void Felt::describe() {
 QPointF Felt::middleOf(int place) const {
     if (place == DealtCard::Dealer) return {width() / 2.0, 16 + CardSize.height() / 2};
     const double angle = std::numbers::pi * (0.045 + 0.91 * (place - 1) / (Seats - 1));
-    return {width() / 2.0 + std::cos(angle) * (width() / 2.0 - 66), ArcTop + 6 + std::sin(angle) * (height() - ArcTop - 84)};
+    return {width() / 2.0 + std::cos(angle) * (width() / 2.0 - 66),
+            ArcTop + 6 + std::sin(angle) * (height() - ArcTop - 84)};
 }
 
 void Felt::resizeEvent(QResizeEvent* /*event*/) {

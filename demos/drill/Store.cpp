@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QLockFile>
 #include <QSaveFile>
 
@@ -13,22 +15,77 @@ QString tr(const char* text) {
     return QCoreApplication::translate("drill::Store", text);
 }
 
+/// Throws std::invalid_argument for what is no number.
+qint64 number(const QJsonObject& object, const char* name) {
+    if (!object[name].isDouble()) throw std::invalid_argument(std::string(name) + " is no number");
+    return object[name].toInteger();
+}
+
+QJsonObject toJson(const Settings& settings) {
+    return {{"decks", settings.decks},
+            {"shuffle", static_cast<int>(settings.shuffle)},
+            {"seat", settings.seat},
+            {"spread", settings.spread},
+            {"others", settings.others},
+            {"played", static_cast<int>(settings.played)},
+            {"pace", static_cast<int>(settings.pace)}};
+}
+
+Settings toSettings(const QJsonObject& object) {
+    const auto get = [&](const char* name) { return static_cast<int>(number(object, name)); };
+    return check({.decks = get("decks"),
+                  .shuffle = static_cast<ShuffleMethod>(get("shuffle")),
+                  .seat = get("seat"),
+                  .spread = get("spread"),
+                  .others = get("others"),
+                  .played = static_cast<PlayedCards>(get("played")),
+                  .pace = static_cast<Pace>(get("pace"))});
+}
+
+Settings settingsOf(const QJsonDocument& document) {
+    return toSettings(document.object());
+}
+
+QJsonObject toJson(const Result& result) {
+    return {{"when", qint64{result.when}},
+            {"settings", toJson(result.settings)},
+            {"seed", static_cast<qint64>(result.seed)},
+            {"cards", result.cards},
+            {"answer", result.answer},
+            {"count", result.count}};
+}
+
+std::vector<Result> resultsOf(const QJsonDocument& document) {
+    if (!document.isArray()) throw std::invalid_argument("there are no results");
+    std::vector<Result> results;
+    for (const auto& value : document.array()) {
+        const QJsonObject object = value.toObject();
+        results.push_back({.when = number(object, "when"),
+                           .settings = toSettings(object["settings"].toObject()),
+                           .seed = static_cast<std::uint64_t>(number(object, "seed")),
+                           .cards = static_cast<int>(number(object, "cards")),
+                           .answer = static_cast<int>(number(object, "answer")),
+                           .count = static_cast<int>(number(object, "count"))});
+    }
+    return results;
+}
+
 } // namespace
 
-template <typename Read>
-auto Store::read(const QString& name, const Read& parse) const -> decltype(parse({})) {
+template <typename Content>
+Content Store::read(const QString& name, Content (*parse)(const QJsonDocument&)) const {
     QFile file(path(name));
     if (!file.exists()) return {};
     QString damage;
-    if (file.open(QIODevice::ReadOnly)) {
-        const std::string content = file.readAll().toStdString();
-        if (file.error() == QFile::NoError) try {
-                return parse(content);
-            } catch (const DamagedLine& damaged) {
-                damage = damaged.what();
-            }
+    try {
+        if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(file.errorString().toStdString());
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+        if (document.isNull()) throw std::runtime_error(error.errorString().toStdString());
+        return parse(document);
+    } catch (const std::exception& failure) {
+        damage = QString::fromStdString(failure.what());
     }
-    if (damage.isEmpty()) damage = file.errorString();
     QString aside = path(name) + ".damaged";
     for (int count = 2; QFile::exists(aside); ++count)
         aside = path(name) + ".damaged-" + QString::number(count);
@@ -38,35 +95,35 @@ auto Store::read(const QString& name, const Read& parse) const -> decltype(parse
     return {};
 }
 
-void Store::write(const QString& name, const std::string& content) const {
+void Store::write(const QString& name, const QJsonDocument& content) const {
     QDir().mkpath(folder_);
     QSaveFile file(path(name));
-    if (file.open(QIODevice::WriteOnly)) file.write(content.data(), static_cast<qint64>(content.size()));
+    if (file.open(QIODevice::WriteOnly)) file.write(content.toJson());
     if (!file.commit()) tell_(tr("%1 could not be written (%2).").arg(path(name), file.errorString()));
 }
 
 Settings Store::settings() const {
-    return read("settings", readSettings);
+    return read("settings.json", settingsOf);
 }
 
 void Store::save(const Settings& settings) const {
-    write("settings", text(settings));
+    write("settings.json", QJsonDocument(toJson(settings)));
 }
 
 std::vector<Result> Store::results() const {
-    return read("results", readResults);
+    return read("results.json", resultsOf);
 }
 
 std::vector<Result> Store::add(const Result& result) const {
     QDir().mkpath(folder_);
     QLockFile lock(path("results.lock"));
-    lock.tryLock(2000);
+    lock.tryLock(2000); // without it a result of a program beside this one may be lost, but none of this one
     std::vector<Result> all = results();
     all.push_back(result);
-    std::string content;
+    QJsonArray array;
     for (const Result& each : all)
-        content += text(each);
-    write("results", content);
+        array.append(toJson(each));
+    write("results.json", QJsonDocument(array));
     return all;
 }
 

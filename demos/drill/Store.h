@@ -1,14 +1,14 @@
 #pragma once
 
-#include "demos/drill/engine/Text.h"
+#include "demos/drill/engine/Drill.h"
 
-#include <QString>
+#include <QJsonDocument>
 #include <functional>
 
 namespace drill {
 
-/// The player's settings and results, each in a file of its own in a folder of his. A file is written whole or not at
-/// all, whatever happens meanwhile, and programs that run side by side do not lose each other's results. One that
+/// The player's settings and results, each in a JSON file of its own in a folder of his. A file is written whole or not
+/// at all, whatever happens meanwhile, and programs that run side by side do not lose each other's results. One that
 /// cannot be read or is damaged is set aside, beside itself, and taken for empty.
 class Store {
 public:
@@ -26,9 +26,9 @@ public:
     std::vector<Result> add(const Result& result) const;
 
 private:
-    template <typename Read>
-    auto read(const QString& name, const Read& parse) const -> decltype(parse({}));
-    void write(const QString& name, const std::string& content) const;
+    template <typename Content>
+    Content read(const QString& name, Content (*parse)(const QJsonDocument&)) const;
+    void write(const QString& name, const QJsonDocument& content) const;
     QString path(const QString& name) const { return folder_ + "/" + name; }
 
     QString folder_;

@@ -1,7 +1,7 @@
 #include "demos/drill/TablePage.h"
 
-#include <QDateTime>
 #include <QBoxLayout>
+#include <QDateTime>
 
 namespace drill {
 
@@ -21,7 +21,8 @@ TablePage::TablePage(QWidget* parent)
       setUp_(new QPushButton(tr("Set &up…"))),
       results_(new QPushButton(tr("&Results…"))) {
     auto* row = new QHBoxLayout;
-    for (QWidget* control : std::initializer_list<QWidget*>{played_, look_, sign_, startStop_, plusMinus_, count_, handIn_})
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{played_, look_, sign_, startStop_, plusMinus_, count_, handIn_})
         row->addWidget(control, 0, Qt::AlignCenter);
     auto* others = new QVBoxLayout;
     others->addWidget(setUp_);
@@ -104,7 +105,7 @@ void TablePage::handIn() {
     const int sign = plusMinus_->PlusMinusButtonIs() == PlusMinusPossibilities::aMinusButton ? -1 : 1;
     const Drill drill = *drill_;
     clear();
-    emit answered(drill, drill.check(sign * count_->CounterValue(), QDateTime::currentSecsSinceEpoch()));
+    emit answered(drill, drill.result(sign * count_->CounterValue(), QDateTime::currentSecsSinceEpoch()));
 }
 
 void TablePage::updateState(const QString& prompt) {

@@ -1,4 +1,4 @@
-#include "demos/drill/engine/Text.h"
+#include "demos/drill/engine/Drill.h"
 
 #include <gtest/gtest.h>
 
@@ -19,30 +19,6 @@ std::vector<DealtCard> dealtToTheEnd(const Settings& settings, std::uint64_t see
 Settings threeSeats(PlayedCards played = PlayedCards::ToDiscardTray) {
     return {.decks = 1, .seat = 4, .spread = 1 << 7, .others = 1 << 1, .played = played};
 }
-
-std::string replaced(std::string line, std::string_view from, std::string_view to) {
-    return line.replace(line.find(from), from.size(), to);
-}
-
-/// The number of the line that the reading reports, or 0.
-std::size_t damagedLine(const auto& read, const std::string& file) {
-    try {
-        read(file);
-    } catch (const DamagedLine& damage) {
-        EXPECT_TRUE(std::string(damage.what()).starts_with("line " + std::to_string(damage.number) + ": "));
-        return damage.number;
-    }
-    return 0;
-}
-
-const Result Known{.when = 1262304000,
-                   .settings = {.decks = 6, .shuffle = ShuffleMethod::StraightThrough, .spread = 40, .others = 2},
-                   .seed = 42,
-                   .cards = 104,
-                   .answer = -3,
-                   .count = -4};
-const std::string KnownLine = "when=1262304000 decks=6 shuffle=straight-through seat=4 spread=40 others=2 played=tray "
-                              "pace=steady seed=42 cards=104 answer=-3 count=-4\n";
 
 } // namespace
 
@@ -121,11 +97,11 @@ TEST(Drill, SaysWhatTheAnswerShouldHaveBeen) {
     Drill drill({.decks = 2, .shuffle = ShuffleMethod::None}, 5);
     for (int card = 0; card < 3; ++card)
         drill.deal();
-    const Result wrong = drill.check(3, 99);
+    const Result wrong = drill.result(3, 99);
     EXPECT_FALSE(wrong.right());
     EXPECT_EQ(wrong,
               (Result{.when = 99, .settings = drill.settings(), .seed = 5, .cards = 3, .answer = 3, .count = -3}));
-    EXPECT_TRUE(drill.check(-3, 99).right());
+    EXPECT_TRUE(drill.result(-3, 99).right());
 }
 
 TEST(Drill, SettingsWithoutADrillAreRefused) {
@@ -135,36 +111,6 @@ TEST(Drill, SettingsWithoutADrillAreRefused) {
           Settings{.spread = 6, .others = 4}, Settings{.played = PlayedCards{}},
           Settings{.played = static_cast<PlayedCards>(4)}, Settings{.pace = static_cast<Pace>(6)}})
         EXPECT_THROW(Drill(settings, 0), std::invalid_argument);
-}
-
-TEST(DrillText, GoesThereAndBack) {
-    EXPECT_EQ(text(Known), KnownLine);
-    const Result other{.when = -1, .settings = {.decks = 12, .shuffle = ShuffleMethod::MachineBox}, .seed = UINT64_MAX};
-    EXPECT_EQ(readResults(text(Known) + text(other)), (std::vector{Known, other}));
-    EXPECT_TRUE(readResults("").empty());
-    EXPECT_EQ(text(Settings{}), "decks=6 shuffle=random seat=4 spread=0 others=0 played=tray pace=steady\n");
-    for (const Pace pace : Paces)
-        EXPECT_EQ(readSettings(text(Settings{.pace = pace})), Settings{.pace = pace});
-}
-
-TEST(DrillText, ADamagedLineIsReportedByItsNumber) {
-    using Edit = std::array<std::string_view, 2>;
-    // clang-format off
-    for (const auto& [from, to] : {
-             Edit{"when=1262304000", "when="}, Edit{"when=1", "when=01"}, Edit{"when", "then"}, Edit{"when", "\nwhen"},
-             Edit{"decks=6", "decks=3"}, Edit{"decks=6 ", ""}, Edit{"decks=6", "decks=99999999999"},
-             Edit{"straight-through", "odd"}, Edit{"cards=104", "cards=-1"}, Edit{" cards", "  cards"},
-             Edit{"answer=-3 count=-4", "count=-4 answer=-3"}, Edit{"-4\n", "-4 stake=5\n"}, Edit{"-4\n", "-4x\n"},
-             Edit{"-4\n", "-4\r\n"}, Edit{"-4\n", "-4"}})
-        EXPECT_EQ(damagedLine(readResults, KnownLine + replaced(KnownLine, from, to)), 2U) << to;
-    const std::string line = text(Settings{});
-    for (const auto& [from, to] : {
-             Edit{"seat=4", "seat="}, Edit{"seat=4", "seat=8"}, Edit{"spread=0", "spread=+0"},
-             Edit{"spread=0", "spread=16"}, Edit{"=tray", "="}, Edit{"=tray", "=shelf"}, Edit{"=steady", "=tray"}})
-        EXPECT_EQ(damagedLine(readSettings, replaced(line, from, to)), 1U) << to;
-    // clang-format on
-    EXPECT_EQ(damagedLine(readSettings, ""), 1U);
-    EXPECT_EQ(damagedLine(readSettings, line + line), 2U);
 }
 
 } // namespace drill

@@ -11,11 +11,6 @@ void require(bool met, int value, const char* what) {
     if (!met) throw std::invalid_argument(std::to_string(value) + what);
 }
 
-const Settings& checked(const Settings& settings) {
-    check(settings);
-    return settings;
-}
-
 } // namespace
 
 int cardsPerMinute(Pace pace) {
@@ -23,10 +18,12 @@ int cardsPerMinute(Pace pace) {
     return perMinute[std::ranges::find(Paces, pace) - std::begin(Paces)];
 }
 
-void check(const Settings& settings) {
+const Settings& check(const Settings& settings) {
     constexpr SeatSet all = (1 << (Seats + 1)) - 2;
     const auto& [decks, shuffle, seat, spread, others, played, pace] = settings;
     checkDecks(decks);
+    require(shuffle >= ShuffleMethod::None && shuffle <= ShuffleMethod::Random, static_cast<int>(shuffle),
+            " is no shuffle");
     require(seat >= 1 && seat <= Seats, seat, " is no seat: the arc has 1 to 7");
     for (const SeatSet seats : {spread, others})
         require((seats & ~all) == 0 && !contains(seats, seat), seats, " is no set of the other seats");
@@ -34,10 +31,11 @@ void check(const Settings& settings) {
     require(played >= PlayedCards::ToDiscardTray && played <= PlayedCards::ToShoe, static_cast<int>(played),
             " is no place for played cards");
     require(std::ranges::count(Paces, pace) == 1, static_cast<int>(pace), " is no pace");
+    return settings;
 }
 
 Drill::Drill(const Settings& settings, std::uint64_t seed)
-    : settings_(checked(settings)), seed_(seed), shoe_(settings.decks, settings.shuffle, seed) {
+    : settings_(check(settings)), seed_(seed), shoe_(settings.decks, settings.shuffle, seed) {
     for (int pass = 0; pass < 2; ++pass) {
         for (int seat = 1; seat <= Seats; ++seat)
             if (settings.isTaken(seat)) round_.push_back(seat);
@@ -68,7 +66,7 @@ std::span<const DealtCard> Drill::inDiscardTray() const {
     return dealt().first(settings_.played == PlayedCards::ToDiscardTray ? tableBegin_ : 0);
 }
 
-Result Drill::check(int answer, std::int64_t when) const {
+Result Drill::result(int answer, std::int64_t when) const {
     return {when, settings_, seed_, static_cast<int>(dealt_.size()), answer, runningCount()};
 }
 

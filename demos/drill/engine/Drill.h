@@ -45,9 +45,9 @@ struct Settings {
     friend bool operator==(const Settings&, const Settings&) = default;
 };
 
-/// Throws std::invalid_argument, which names the value, for a count of decks that there is not, for a seat or bit
-/// outside of 1 to 7, a seat taken twice, a place where played cards cannot go and a pace that there is not.
-void check(const Settings& settings);
+/// What it is given. Throws std::invalid_argument, which names the value, for a count of decks that there is not, for a
+/// seat or bit outside of 1 to 7, a seat taken twice, and a shuffle, place of played cards or pace that there is not.
+const Settings& check(const Settings& settings);
 
 struct DealtCard {
     /// The place of the dealer among the seats.
@@ -81,7 +81,7 @@ struct Result {
 /// go back to the shoe a drill has no end of its own.
 class Drill {
 public:
-    /// Throws as check and shuffle do.
+    /// Throws as check does.
     Drill(const Settings& settings, std::uint64_t seed);
 
     const Settings& settings() const { return settings_; }
@@ -101,7 +101,7 @@ public:
     int runningCount() const { return dealt_.empty() ? 0 : dealt_.back().runningCount; }
 
     /// Holds the answer against the running count. The time is in seconds since the beginning of 1970.
-    Result check(int answer, std::int64_t when) const;
+    Result result(int answer, std::int64_t when) const;
 
 private:
     Settings settings_;
