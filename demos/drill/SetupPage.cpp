@@ -91,6 +91,7 @@ SetupPage::SetupPage(QWidget* parent)
     });
     connect(pair_, &ssOKCancel::OKWasClicked, this, &SetupPage::accepted);
     connect(pair_, &ssOKCancel::CancelWasClicked, this, &SetupPage::rejected);
+    setFocusProxy(decks_);
     setSettings(settings_);
 }
 

@@ -54,6 +54,7 @@ TablePage::TablePage(QWidget* parent)
     connect(results_, &QPushButton::clicked, this, &TablePage::resultsWanted);
     connect(&pace_, &QTimer::timeout, this, &TablePage::dealCard);
     pace_.setTimerType(Qt::PreciseTimer);
+    setFocusProxy(startStop_);
     setSettings(settings_);
 }
 

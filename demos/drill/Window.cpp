@@ -29,30 +29,30 @@ Window::Window(const Options& options)
     connect(setup_, &SetupPage::accepted, this, [this] {
         table_->setSettings(setup_->settings());
         store_.save(setup_->settings());
-        showTable();
+        turnTo(table_);
     });
-    connect(setup_, &SetupPage::rejected, this, &Window::showTable);
+    connect(setup_, &SetupPage::rejected, this, [this] { turnTo(table_); });
     connect(table_, &TablePage::setUpWanted, this, [this] {
         setup_->setSettings(table_->settings());
-        pages_->setCurrentWidget(setup_);
+        turnTo(setup_);
     });
     connect(table_, &TablePage::startWanted, this, &Window::deal);
     connect(table_, &TablePage::answered, this, [this](const Drill& drill, const Result& result) {
         result_->setResults(store_.add(result));
-        pages_->setCurrentWidget(result_);
+        turnTo(result_);
         result_->setDrill(drill, result);
     });
     connect(table_, &TablePage::resultsWanted, this, [this] {
         result_->setResults(store_.results());
-        pages_->setCurrentWidget(result_);
+        turnTo(result_);
         result_->setNoDrill();
     });
     connect(result_, &ResultPage::againWanted, this, [this](const Settings& settings, std::uint64_t seed) {
         again_ = seed;
         table_->setSettings(settings);
-        showTable();
+        turnTo(table_);
     });
-    connect(result_, &ResultPage::tableWanted, this, &Window::showTable);
+    connect(result_, &ResultPage::tableWanted, this, [this] { turnTo(table_); });
 
     Settings settings = store_.settings();
     if (options.decks) settings.decks = *options.decks;
@@ -67,8 +67,9 @@ void Window::tell(const QString& message) {
     QAccessible::updateAccessibility(&alert);
 }
 
-void Window::showTable() {
-    pages_->setCurrentWidget(table_);
+void Window::turnTo(QWidget* page) {
+    pages_->setCurrentWidget(page);
+    page->setFocus();
 }
 
 void Window::deal() {

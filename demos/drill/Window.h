@@ -29,7 +29,7 @@ protected:
 
 private:
     void tell(const QString& message);
-    void showTable();
+    void turnTo(QWidget* page);
     void deal();
 
     QLabel* message_;
