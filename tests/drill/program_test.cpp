@@ -160,7 +160,7 @@ TEST_F(DrillProgram, ByKeyboardFromTheSetUpToTheResult) {
     EXPECT_TRUE(says("Wrong: the running count is +1, and not -2."));
     ASSERT_EQ(results().size(), 1U);
     EXPECT_EQ(results()[0].cards, 4);
-    press("Alt+T"); // to the table
+    press("Alt+t"); // to the table
     ASSERT_TRUE(says("START deals"));
     press("Return");
     EXPECT_TRUE(says("STOP ends"));
