@@ -36,8 +36,8 @@ def below(accessible):
         yield from below(child)
 
 
-def application():
-    return next((app for app in pyatspi.Registry.getDesktop(0) if app and app.name == "all-controls"), None)
+def application(name):
+    return next((app for app in pyatspi.Registry.getDesktop(0) if app and app.name == name), None)
 
 
 def actions(accessible):
@@ -61,7 +61,7 @@ def require(truth, what):
         sys.exit(what)
 
 
-def go_through(program):
+def listen():
     pyatspi.Registry.registerEventListener(
         lambda event: heard.append((str(event.type), event.source.name, event.detail1)),
         "object:state-changed:checked",
@@ -69,8 +69,12 @@ def go_through(program):
         "object:property-change:accessible-value",
         "object:property-change:accessible-name",
     )
+
+
+def go_through(program):
+    listen()
     require(b"ready\n" in program.stdout, "the program has ended")
-    window = until(application, "the program")[0]
+    window = until(lambda: application("all-controls"), "the program")[0]
     everything = list(below(window))
     controls = [child for child in window if child.getRoleName() == "panel"]
     require(len(controls) == 17, f"{len(controls)} controls")
@@ -106,8 +110,9 @@ def go_through(program):
     require(gained[-1] == "Sit Down", f"the focus goes to {gained}")
 
 
-with subprocess.Popen(sys.argv[1:], stdout=subprocess.PIPE) as program:
-    try:
-        go_through(program)
-    finally:
-        program.kill()
+if __name__ == "__main__":
+    with subprocess.Popen(sys.argv[1:], stdout=subprocess.PIPE) as program:
+        try:
+            go_through(program)
+        finally:
+            program.kill()
