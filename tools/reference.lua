@@ -33,6 +33,19 @@ local function readMiscStatusBits()
     return bits
 end
 
+-- What each class is for in the count drill, whose sources say it where they declare an instance.
+local function readUses()
+    local uses = {}
+    for _, file in ipairs { "SetupPage.h", "TablePage.h", "ResultPage.h", "Felt.h", "SeatSets.cpp" } do
+        for line in io.lines(sources .. "/demos/drill/" .. file) do
+            local declared, use = line:match("^(.*); +///< (.*)$")
+            for word in (declared or ""):gmatch("%w+") do uses[word] = { file = file, use = use } end
+        end
+    end
+    return setmetatable(uses, { __index = function(_, name) error("the drill has no use for " .. name) end })
+end
+
+local uses = readUses()
 local miscStatusBits = readMiscStatusBits()
 local commentsOf, isEnumeration = {}, {}
 for _, class in ipairs(component.classes) do commentsOf[class.name] = commentsIn(headerOf(class.name)) end
@@ -269,6 +282,8 @@ local function writeClass(class)
     addOverview(page, class)
     if isControl then page:paragraph("![%s](%s.svg)", class.name, class.name) end
     addScenes(page, class.name)
+    local drill = uses[class.name]
+    page:paragraph("In [the count drill](../../demos/drill/%s): %s.", drill.file, drill.use)
     addIdentity(page, class)
     if isControl then addIdentityOfControl(page, class) end
     addMembers(page, class)

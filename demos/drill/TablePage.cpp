@@ -37,6 +37,8 @@ TablePage::TablePage(QWidget* parent)
     keepsRoom.setRetainSizeWhenHidden(true);
     played_->setSizePolicy(keepsRoom);
     handIn_->setCaption(tr("O&K"));
+    plusMinus_->setAccessibleName(tr("Sign of the running count"));
+    count_->setAccessibleName(tr("Running count"));
     count_->ResetSizeToDefault();
     count_->setCounterValue(0);
     count_->setMaximumLimit(16 * 12); // no shoe has a greater count

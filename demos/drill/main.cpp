@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <climits>
 #include <iostream>
 
 namespace {
@@ -77,7 +78,7 @@ int main(int argc, char** argv) try {
 
     Window::Options choice;
     if (options.isSet("decks")) {
-        choice.decks = static_cast<int>(std::min<std::uint64_t>(number(options, "decks"), 13));
+        choice.decks = static_cast<int>(std::min<std::uint64_t>(number(options, "decks"), INT_MAX));
         checkDecks(*choice.decks);
     }
     if (options.isSet("seed")) choice.seed = number(options, "seed");
