@@ -56,8 +56,8 @@ void Felt::cardDealt() {
     describe();
 }
 
-void Felt::setLook(CardLook look) {
-    look_ = look;
+void Felt::switchCards() {
+    look_ = look_ == CardLook::Faces ? CardLook::Ranks : CardLook::Faces;
     describe();
 }
 
@@ -138,7 +138,6 @@ void Felt::paintEvent(QPaintEvent* /*event*/) {
     }
     if (!hasFocus()) return;
     painter.setPen(QPen(Line, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5));
 }
 

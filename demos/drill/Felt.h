@@ -24,8 +24,8 @@ public:
     /// Shows and tells the card that was dealt last.
     void cardDealt();
 
-    CardLook look() const { return look_; }
-    void setLook(CardLook look);
+    /// From faces to ranks, or back.
+    void switchCards();
 
     QSize sizeHint() const override { return {820, 340}; }
     QSize minimumSizeHint() const override { return sizeHint(); }

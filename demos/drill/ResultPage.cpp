@@ -68,6 +68,8 @@ ResultPage::ResultPage(QWidget* parent)
     results_->setTabKeyNavigation(false);
     results_->verticalHeader()->hide();
     results_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    results_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    results_->setMaximumHeight(190);
 
     auto* layout = new QGridLayout(this);
     layout->addWidget(verdict_, 0, 0, 1, 2);
@@ -150,8 +152,7 @@ void ResultPage::setNoDrill() {
 }
 
 void ResultPage::showDrillParts(bool shown) {
-    for (QWidget* part : {static_cast<QWidget*>(cards_), static_cast<QWidget*>(hands_), static_cast<QWidget*>(seats_),
-                          static_cast<QWidget*>(again_)})
+    for (QWidget* part : std::initializer_list<QWidget*>{cards_, hands_, seats_, again_})
         part->setVisible(shown);
 }
 

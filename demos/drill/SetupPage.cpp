@@ -48,10 +48,6 @@ SetupPage::SetupPage(QWidget* parent)
     }
     layout->addWidget(pair_, 2, column, Qt::AlignRight | Qt::AlignBottom);
     pace_->setMinimumWidth(160);
-    QSizePolicy keepsRoom = others_->sizePolicy();
-    keepsRoom.setRetainSizeWhenHidden(true);
-    others_->setSizePolicy(keepsRoom);
-    others_->hide();
 
     connect(decks_, &DeckButtons::NumberOfDecksChanged, this, [this](int count) { settings_.decks = count; });
     connect(shuffle_, &CardShufflingOptions::CardShuffleMethodChanged, this,

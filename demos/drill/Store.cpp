@@ -31,7 +31,7 @@ QJsonObject toJson(const Settings& settings) {
             {"pace", static_cast<int>(settings.pace)}};
 }
 
-Settings toSettings(const QJsonObject& object) {
+Settings settingsOf(const QJsonObject& object) {
     const auto get = [&](const char* name) { return static_cast<int>(number(object, name)); };
     return check({.decks = get("decks"),
                   .shuffle = static_cast<ShuffleMethod>(get("shuffle")),
@@ -40,10 +40,6 @@ Settings toSettings(const QJsonObject& object) {
                   .others = get("others"),
                   .played = static_cast<PlayedCards>(get("played")),
                   .pace = static_cast<Pace>(get("pace"))});
-}
-
-Settings settingsOf(const QJsonDocument& document) {
-    return toSettings(document.object());
 }
 
 QJsonObject toJson(const Result& result) {
@@ -61,7 +57,7 @@ std::vector<Result> resultsOf(const QJsonDocument& document) {
     for (const auto& value : document.array()) {
         const QJsonObject object = value.toObject();
         results.push_back({.when = number(object, "when"),
-                           .settings = toSettings(object["settings"].toObject()),
+                           .settings = settingsOf(object["settings"].toObject()),
                            .seed = static_cast<std::uint64_t>(number(object, "seed")),
                            .cards = static_cast<int>(number(object, "cards")),
                            .answer = static_cast<int>(number(object, "answer")),
@@ -103,7 +99,7 @@ void Store::write(const QString& name, const QJsonDocument& content) const {
 }
 
 Settings Store::settings() const {
-    return read("settings.json", settingsOf);
+    return read<Settings>("settings.json", [](const QJsonDocument& document) { return settingsOf(document.object()); });
 }
 
 void Store::save(const Settings& settings) const {
@@ -111,7 +107,7 @@ void Store::save(const Settings& settings) const {
 }
 
 std::vector<Result> Store::results() const {
-    return read("results.json", resultsOf);
+    return read<std::vector<Result>>("results.json", resultsOf);
 }
 
 std::vector<Result> Store::add(const Result& result) const {

@@ -45,8 +45,7 @@ TablePage::TablePage(QWidget* parent)
 
     connect(startStop_, &StartStopButtons::StartButtonWasClicked, this, &TablePage::startWanted);
     connect(startStop_, &StartStopButtons::StopButtonWasClicked, this, &TablePage::stop);
-    connect(look_, &SwitchCardsButton::SwitchCardsButtonWasPressed, this,
-            [this] { felt_->setLook(felt_->look() == CardLook::Faces ? CardLook::Ranks : CardLook::Faces); });
+    connect(look_, &SwitchCardsButton::SwitchCardsButtonWasPressed, felt_, &Felt::switchCards);
     const auto goTo = [this](PlayedCards played) { return [this, played] { settings_.played = played; }; };
     connect(played_, &GamingCardSelection::CardsToDiscardTrayClicked, this, goTo(PlayedCards::ToDiscardTray));
     connect(played_, &GamingCardSelection::CardsToTableClicked, this, goTo(PlayedCards::ToTable));
@@ -55,7 +54,6 @@ TablePage::TablePage(QWidget* parent)
     connect(setUp_, &QPushButton::clicked, this, &TablePage::setUpWanted);
     connect(results_, &QPushButton::clicked, this, &TablePage::resultsWanted);
     connect(&pace_, &QTimer::timeout, this, &TablePage::dealCard);
-    pace_.setTimerType(Qt::PreciseTimer);
     setFocusProxy(startStop_);
     setSettings(settings_);
 }
@@ -114,13 +112,11 @@ void TablePage::handIn() {
 void TablePage::updateState(const QString& prompt) {
     prompt_->setText(prompt);
     played_->SelectThisButton(static_cast<GameCardButtonPossibilities>(settings_.played));
-    for (QWidget* idle :
-         {static_cast<QWidget*>(played_), static_cast<QWidget*>(setUp_), static_cast<QWidget*>(results_)})
+    for (QWidget* idle : std::initializer_list<QWidget*>{played_, setUp_, results_})
         idle->setEnabled(!drill_);
     sign_->setEnabled(drill_ && !asks_);
     startStop_->setEnabled(!asks_);
-    for (QWidget* asked :
-         {static_cast<QWidget*>(plusMinus_), static_cast<QWidget*>(count_), static_cast<QWidget*>(handIn_)})
+    for (QWidget* asked : std::initializer_list<QWidget*>{plusMinus_, count_, handIn_})
         asked->setEnabled(asks_);
 }
 

@@ -23,7 +23,7 @@ Window::Window(const Options& options)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(message_);
     layout->addWidget(pages_);
-    for (QWidget* page : {static_cast<QWidget*>(setup_), static_cast<QWidget*>(table_), static_cast<QWidget*>(result_)})
+    for (QWidget* page : std::initializer_list<QWidget*>{setup_, table_, result_})
         pages_->addWidget(page);
 
     connect(setup_, &SetupPage::accepted, this, [this] {
@@ -82,11 +82,9 @@ void Window::deal() {
 void Window::closeEvent(QCloseEvent* event) {
     if (!table_->isInDrill()) return event->accept();
     table_->pause();
-    const auto answer =
-        QMessageBox::question(this, windowTitle(), tr("Leave in the middle of a drill? It will not be counted."),
-                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    event->setAccepted(answer == QMessageBox::Yes);
-    if (answer == QMessageBox::No) table_->resume();
+    const QString question = tr("Leave in the middle of a drill? It will not be counted.");
+    event->setAccepted(QMessageBox::question(this, windowTitle(), question) == QMessageBox::Yes);
+    if (!event->isAccepted()) table_->resume();
 }
 
 } // namespace drill

@@ -57,25 +57,18 @@ int main(int argc, char** argv) try {
     options.addOption({"decks", "Puts so many decks into the shoe: 1, 2, 4 to 10 or 12.", "N"});
     options.addOption({"screenshot", "Writes a picture into a file, and ends. Needs no display.", "FILE"});
     options.addOption({"page", "The page of that picture: setup, as without this, or table.", "NAME", "setup"});
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    if (!options.parse(arguments)) throw std::invalid_argument(options.errorText().toStdString());
-    if (!options.positionalArguments().isEmpty())
-        throw std::invalid_argument(options.positionalArguments().first().toStdString() + ": no file is taken");
-
     const auto isUnset = [](const char* name) { return qEnvironmentVariableIsEmpty(name); };
-    if (isUnset("DISPLAY") && isUnset("WAYLAND_DISPLAY") && isUnset("QT_QPA_PLATFORM")) {
-        if (!options.isSet(help) && !options.isSet("screenshot"))
-            throw std::runtime_error("there is no display; --screenshot FILE needs none");
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    const bool hasDisplay = !isUnset("DISPLAY") || !isUnset("WAYLAND_DISPLAY") || !isUnset("QT_QPA_PLATFORM");
+    if (!hasDisplay) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setApplicationName("zilvo-drill");
     QApplication::setDesktopFileName("zilvo-drill");
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(":/zilvo-drill.svg"));
-    if (options.isSet(help)) options.showHelp();
 
+    if (!options.parse(QApplication::arguments())) throw std::invalid_argument(options.errorText().toStdString());
+    if (!options.positionalArguments().isEmpty())
+        throw std::invalid_argument(options.positionalArguments().first().toStdString() + ": no file is taken");
+    if (options.isSet(help)) options.showHelp();
     Window::Options choice;
     if (options.isSet("decks")) {
         choice.decks = static_cast<int>(std::min<std::uint64_t>(number(options, "decks"), INT_MAX));
@@ -83,6 +76,7 @@ int main(int argc, char** argv) try {
     }
     if (options.isSet("seed")) choice.seed = number(options, "seed");
     if (options.isSet("screenshot")) return writePicture(choice, options.value("page"), options.value("screenshot")), 0;
+    if (!hasDisplay) throw std::runtime_error("there is no display; --screenshot FILE needs none");
     choice.folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     Window window(choice);
     window.show();
