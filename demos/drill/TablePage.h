@@ -60,8 +60,8 @@ private:
     zilvo::qt::SwitchCardsButton* look_;     ///< shows the cards as they are or by their ranks alone
     zilvo::qt::paneledGOButton* sign_;       ///< lit while cards are dealt, its shape telling the pace
     zilvo::qt::StartStopButtons* startStop_; ///< begins to deal, and ends it where the player likes
-    zilvo::qt::PlusMinusButton* plusMinus_;  ///< the sign of the count that the player hands in
-    zilvo::qt::SpinCounter* count_;          ///< that count, without its sign
+    zilvo::qt::PlusMinusButton* plusMinus_;  ///< the sign of the count that is handed in
+    zilvo::qt::SpinCounter* count_;          ///< the running count that is handed in, without its sign
     zilvo::qt::verticalOK* handIn_;          ///< hands the count in
     QLabel* prompt_;
     QPushButton* setUp_;
