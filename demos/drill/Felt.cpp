@@ -105,7 +105,7 @@ void Felt::paintPile(QPainter& painter, QRectF within, const QString& name, int 
 void Felt::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), parentWidget()->palette().window());
+    painter.fillRect(rect(), window()->palette().window());
     painter.fillRect(QRectF(0, 0, width(), ArcTop), Green);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Green);
