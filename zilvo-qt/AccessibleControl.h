@@ -5,6 +5,6 @@
 namespace zilvo::qt {
 
 /// Gives the widgets that host controls their accessible objects from now on. May be called again.
-void installAccessibleControls();
+Q_DECL_HIDDEN void installAccessibleControls();
 
 } // namespace zilvo::qt

@@ -11,7 +11,7 @@ class ControlWidget;
 
 /// The accessible objects of one control's widgets, below that of the widget that hosts it. Each is made when an
 /// assistive technology first asks for it, belongs to the toolkit's cache, and ends with the control.
-class AccessibleWidgets final {
+class Q_DECL_HIDDEN AccessibleWidgets final {
 public:
     AccessibleWidgets(ControlWidget& host, platform::HostedControl& control) : host_(host), control_(control) {}
     AccessibleWidgets(const AccessibleWidgets&) = delete;

@@ -43,7 +43,7 @@ QSize pixelsOf(const Rectangle& area) {
 } // namespace
 
 /// The control's site; with each instance another one.
-class ControlWidget::Host final : public ControlHost {
+class Q_DECL_HIDDEN ControlWidget::Host final : public ControlHost {
 public:
     Host(ControlWidget& widget, Ref<Object> object) : ControlHost(std::move(object)), widget_(widget) {}
 

@@ -16,7 +16,7 @@ class ControlWidget;
 /// their default and cancel buttons, and letters with Alt go to whatever answers to them now, in turn where several
 /// do. A dialog's own default button comes before the controls'; a button that has the keyboard before all. One per
 /// window, which owns it.
-class WindowKeys final : public QObject {
+class Q_DECL_HIDDEN WindowKeys final : public QObject {
     Q_OBJECT
 
 public:

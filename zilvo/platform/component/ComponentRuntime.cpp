@@ -58,7 +58,7 @@ Status LoadedComponent::getClassObject(const Guid& classId, const Guid& interfac
 }
 
 template <class T>
-Ref<T> LoadedComponent::classObject(const Guid& classId, const Guid& interfaceId) const {
+inline Ref<T> LoadedComponent::classObject(const Guid& classId, const Guid& interfaceId) const {
     void* object = nullptr;
     const Status status = getClassObject(classId, interfaceId, &object);
     if (!succeeded(status)) throw Failure(status, file_.string() + ": class " + classId.text() + ": " + nameOf(status));

@@ -100,7 +100,7 @@ Bytes ElfFile::read(std::uint64_t offset, std::uint64_t size, const std::string&
 }
 
 template <class Structure>
-Structure ElfFile::structure(std::uint64_t offset, const std::string& what) {
+inline Structure ElfFile::structure(std::uint64_t offset, const std::string& what) {
     const Bytes bytes = read(offset, sizeof(Structure), what);
     Structure structure{};
     std::memcpy(&structure, bytes.data(), sizeof(Structure));

@@ -33,8 +33,8 @@ void Object::destroy() noexcept {
 }
 
 template <class Which>
-Status Object::invoke(const MemberDescription* member, const Which& which, Access how, std::span<Variant> arguments,
-                      Variant* result, ErrorInfo* error) noexcept {
+inline Status Object::invoke(const MemberDescription* member, const Which& which, Access how,
+                             std::span<Variant> arguments, Variant* result, ErrorInfo* error) noexcept {
     if (!member) return unknownMember(description(), which, error);
     const Ref<Object> alive(*this);
     return atTheEdge(

@@ -31,7 +31,7 @@ std::string describe(const Variant& value);
 
 /// Conversion by C++ type; enumerations accept any 32-bit value.
 template <class T>
-T convert(const Variant& value, StringView what = {}) {
+inline T convert(const Variant& value, StringView what = {}) {
     // What already has the kind, as most values do, is taken without a call.
     using Held = std::conditional_t<std::is_same_v<T, bool>, Boolean, std::conditional_t<std::is_enum_v<T>, Long, T>>;
     if constexpr (!std::is_same_v<T, FontRef>)
@@ -59,7 +59,7 @@ T convert(const Variant& value, StringView what = {}) {
 
 /// A C++ value as the Variant of its kind; enumerations become Longs.
 template <class T>
-Variant toVariant(const T& value) {
+inline Variant toVariant(const T& value) {
     if constexpr (std::is_enum_v<T> && !std::is_same_v<T, Boolean>)
         return Variant(static_cast<Long>(value));
     else

@@ -71,7 +71,7 @@ namespace detail {
 
 /// Kept out of the way of the calls that succeed. Without memory for the context the message stands alone.
 template <class Context>
-[[gnu::cold, gnu::noinline]] Status failedAtTheEdge(ErrorInfo* error, const Context& context) noexcept {
+[[gnu::cold, gnu::noinline]] inline Status failedAtTheEdge(ErrorInfo* error, const Context& context) noexcept {
     std::string name;
     try {
         name = context();
@@ -85,7 +85,7 @@ template <class Context>
 /// The module's edge: runs `body`, which may throw, and gives a status. `context` is called only on failure and
 /// names the object and the member.
 template <class Body, class Context>
-Status atTheEdge(ErrorInfo* error, const Context& context, const Body& body) noexcept {
+inline Status atTheEdge(ErrorInfo* error, const Context& context, const Body& body) noexcept {
     try {
         body();
         return Status::Ok;
@@ -99,7 +99,7 @@ void throwUnlessOk(Status status, const ErrorInfo& error);
 
 /// Runs `body` and puts the context in front of the message of what it fails with.
 template <class Context, class Body>
-void inContext(const Context& context, const Body& body) {
+inline void inContext(const Context& context, const Body& body) {
     ErrorInfo error;
     const Status status = atTheEdge(&error, context, body);
     throwUnlessOk(status, error);

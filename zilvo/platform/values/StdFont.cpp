@@ -47,7 +47,7 @@ StdFont::StdFont(const FontDesign& design)
       strikethrough_(design.Strikethrough) {}
 
 template <class T>
-void StdFont::change(T& member, const T& value) {
+inline void StdFont::change(T& member, const T& value) {
     if (member == value) return;
     member = value;
     const auto alive = weak_from_this().lock(); // whoever is told may let go of what has the font
