@@ -3,14 +3,14 @@
 # there are any, have the comments.
 #
 #     zilvo_add_typed_widgets(TARGET COMPONENT INCLUDE_FOLDER NAMESPACE [HEADERS FILE...])
-set(typed_widgets_script ${CMAKE_CURRENT_LIST_DIR}/../tools/typed-widgets.lua CACHE INTERNAL "writes typed classes")
+include(${CMAKE_CURRENT_LIST_DIR}/../cmake/Exports.cmake)
 function(zilvo_add_typed_widgets target component include_folder namespace)
     cmake_parse_arguments(PARSE_ARGV 4 with "" "" HEADERS)
     set(file ${component})
     if(TARGET ${component})
         set(file $<TARGET_FILE:${component}>)
     endif()
-    get_filename_component(tools ${typed_widgets_script} DIRECTORY)
+    set(tools ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../tools)
     set(output ${CMAKE_CURRENT_BINARY_DIR}/${target})
     file(MAKE_DIRECTORY ${output}/${include_folder})
     list(TRANSFORM with_HEADERS REPLACE "^([^/])" "${CMAKE_CURRENT_SOURCE_DIR}/\\1")
@@ -19,16 +19,16 @@ function(zilvo_add_typed_widgets target component include_folder namespace)
     list(TRANSFORM made PREPEND ${output}/${include_folder}/)
     # As byproducts, so that what did not change is not compiled again.
     add_custom_command(OUTPUT ${output}/made BYPRODUCTS ${made} VERBATIM
-        COMMAND zilvo --component ${file} run ${typed_widgets_script} ${output} ${include_folder} ${namespace}
+        COMMAND Zilvo::zilvo --component ${file} run ${tools}/typed-widgets.lua ${output} ${include_folder} ${namespace}
                 ${with_HEADERS}
         COMMAND ${CMAKE_COMMAND} -E touch ${output}/made
-        DEPENDS zilvo ${component} ${typed_widgets_script} ${tools}/headers.lua ${with_HEADERS}
+        DEPENDS Zilvo::zilvo ${component} ${tools}/typed-widgets.lua ${tools}/headers.lua ${with_HEADERS}
         COMMENT "Writing the typed classes of ${component}")
     add_custom_target(${target}-sources DEPENDS ${output}/made)
     add_library(${target} SHARED ${made})
     add_dependencies(${target} ${target}-sources)
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     zilvo_export_namespace(${target} ${namespace})
-    target_include_directories(${target} PUBLIC ${output})
-    target_link_libraries(${target} PUBLIC zilvo-qt)
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${output}>)
+    target_link_libraries(${target} PUBLIC Zilvo::Qt)
 endfunction()
