@@ -3,7 +3,6 @@
 #include "zilvo-qt/Values.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 namespace zilvo::qt {
 
@@ -27,15 +26,8 @@ Ref<Object> Components::create(const QString& controlClass) {
         return std::any_of(components_.known().begin(), components_.known().end(),
                            [&](const KnownComponent& each) { return each.description().find(name) != nullptr; });
     };
-    if (!isKnown() && !std::exchange(hasLookedBeside_, true)) {
-        const QDir folder(QCoreApplication::applicationDirPath());
-        for (const QString& file : folder.entryList({QStringLiteral("*.Ocx")}, QDir::Files, QDir::Name)) {
-            // What is no component, or a broken one, is not missed until its class is asked for.
-            ErrorInfo unread;
-            atTheEdge(
-                &unread, [] { return std::string(); }, [&] { add(folder.filePath(file)); });
-        }
-    }
+    if (!isKnown() && !std::exchange(hasLookedBeside_, true))
+        components_.addFrom(QCoreApplication::applicationDirPath().toStdString());
     return components_.create(name);
 }
 

@@ -20,8 +20,8 @@ public:
     void add(const QString& file);
 
     /// Creates an instance by class name, ProgID or class id: of a component that is known, else of one that lies
-    /// beside the program (*.Ocx), else of one that is registered. Fails with ClassNotAvailable, and as loading the
-    /// component does.
+    /// beside the program (*.Ocx), else of one that is registered or installed. Fails with ClassNotAvailable, and as
+    /// loading the component does.
     platform::Ref<platform::Object> create(const QString& controlClass);
 
 private:

@@ -1,5 +1,6 @@
 #include "hosts/console/Component.h"
 
+#include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/RegistrationStore.h"
 
 #include <algorithm>
@@ -21,28 +22,36 @@ std::filesystem::path programFolder() {
     return program.parent_path();
 }
 
+bool isThere(const std::filesystem::path& file) {
+    std::error_code unreadable; // is told by who reads the file
+    return std::filesystem::status(file, unreadable).type() != std::filesystem::file_type::not_found;
+}
+
 } // namespace
 
 std::filesystem::path componentFile(const std::filesystem::path& named) {
     if (!named.empty()) return named;
     auto beside = programFolder() / UsualName;
-    std::error_code unreadable; // is told by who reads the file
-    if (std::filesystem::status(beside, unreadable).type() != std::filesystem::file_type::not_found) return beside;
+    if (isThere(beside)) return beside;
+    auto installed = installedComponents() / UsualName;
 
     const auto nothing = [&] {
         return "there is no component: none is named with --component FILE, none lies beside the program, at " +
-               beside.string() + ", and none has been registered with zilvo register FILE";
+               beside.string() + ", none is installed, at " + installed.string() +
+               ", and none has been registered with zilvo register FILE";
     };
     Registrations registrations;
     inContext(nothing, [&] {
         for (const RegistrationStore& store : RegistrationStore::all())
             std::ranges::move(store.read(), std::back_inserter(registrations));
-        if (registrations.empty()) RegistrationStore(); // which tells that there is no place for any
     });
-    if (registrations.empty()) throw Failure(Status::FileNotFound, nothing());
     const auto nameOfFile = [](const Registration& each) { return each.file.filename(); };
     const auto usual = std::ranges::find(registrations, UsualName, nameOfFile);
-    return usual == registrations.end() ? registrations.front().file : usual->file;
+    if (usual != registrations.end()) return usual->file;
+    if (isThere(installed)) return installed;
+    if (!registrations.empty()) return registrations.front().file;
+    inContext(nothing, [] { RegistrationStore(); }); // which tells when there is no place for any
+    throw Failure(Status::FileNotFound, nothing());
 }
 
 } // namespace zilvo::console

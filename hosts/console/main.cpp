@@ -219,7 +219,7 @@ private:
     void takeFiles(CLI::App& where) {
         where
             .add_option("--component", given_.component,
-                        "the component file, if not the one beside the program or a registered one")
+                        "the component file, if not the one beside the program, a registered or the installed one")
             ->type_name("FILE");
         where
             .add_option("--registrations", given_.registrations,

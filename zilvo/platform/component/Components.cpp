@@ -1,6 +1,9 @@
 #include "zilvo/platform/component/Components.h"
 
+#include "zilvo/platform/component/Files.h"
 #include "zilvo/platform/component/RegistrationStore.h"
+
+#include <algorithm>
 
 namespace zilvo::platform {
 
@@ -34,11 +37,29 @@ std::string listOf(const std::vector<RegistrationStore>& stores) {
 
 } // namespace
 
+std::filesystem::path installedComponents() {
+    static const char ofThePlatform = 0;
+    return fileMappedAt(&ofThePlatform).parent_path() / "zilvo";
+}
+
 KnownComponent& Components::add(const std::filesystem::path& file) {
     std::error_code error;
     for (KnownComponent& component : known_)
         if (std::filesystem::equivalent(component.file(), file, error)) return component;
     return known_.emplace_back(file);
+}
+
+void Components::addFrom(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> files;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
+        if (entry.path().extension() == ".Ocx") files.push_back(entry.path());
+    std::ranges::sort(files);
+    for (const auto& file : files) {
+        ErrorInfo unread;
+        atTheEdge(
+            &unread, [] { return std::string(); }, [&] { add(file); });
+    }
 }
 
 Ref<Object> Components::create(StringView name) {
@@ -52,14 +73,25 @@ Ref<Object> Components::application(StringView name) {
 }
 
 Components::Found Components::find(StringView name) {
-    for (KnownComponent& component : known_)
-        if (component.description().find(name)) return {component, String(name)};
-    return findRegistered(name);
+    if (const auto found = findKnown(name)) return *found;
+    if (const auto found = findRegistered(name)) return *found;
+    addFrom(installedComponents());
+    if (const auto found = findKnown(name)) return *found;
+    if (!RegistrationStore::usualFile())
+        throw Failure(Status::ClassNotAvailable,
+                      "no known component has a class " + toUtf8(name) + ", and there is no place for registrations");
+    throw Failure(Status::ClassNotAvailable, "neither a known component nor the registrations in " +
+                                                 listOf(RegistrationStore::all()) + " have a class " + toUtf8(name));
 }
 
-Components::Found Components::findRegistered(StringView name) {
-    const auto stores = RegistrationStore::all();
-    for (const RegistrationStore& store : stores) {
+std::optional<Components::Found> Components::findKnown(StringView name) {
+    for (KnownComponent& component : known_)
+        if (component.description().find(name)) return Found{component, String(name)};
+    return std::nullopt;
+}
+
+std::optional<Components::Found> Components::findRegistered(StringView name) {
+    for (const RegistrationStore& store : RegistrationStore::all()) {
         const auto found = newestOf(name, store);
         if (!found) continue;
         const auto registered = [&](const char* how) { return toUtf8(name) + how + store.file().string(); };
@@ -68,13 +100,9 @@ Components::Found Components::findRegistered(StringView name) {
         if (!component->description().find(found->classId))
             throw Failure(Status::ClassNotAvailable, registered(" is registered in ") + " for " + found->file.string() +
                                                          ", which does not have it");
-        return {*component, toUtf16(found->classId.text())};
+        return Found{*component, toUtf16(found->classId.text())};
     }
-    if (!RegistrationStore::usualFile())
-        throw Failure(Status::ClassNotAvailable,
-                      "no known component has a class " + toUtf8(name) + ", and there is no place for registrations");
-    throw Failure(Status::ClassNotAvailable, "neither a known component nor the registrations in " + listOf(stores) +
-                                                 " have a class " + toUtf8(name));
+    return std::nullopt;
 }
 
 std::size_t Components::liveObjects() const {

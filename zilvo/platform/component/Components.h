@@ -30,17 +30,24 @@ private:
     std::optional<LoadedComponent> loaded_;
 };
 
+/// Where components are installed: the folder `zilvo` beside the library of the platform, wherever that was moved to.
+std::filesystem::path installedComponents();
+
 /// The components of a late-bound host, which creates objects by identifier alone. Owns them, each file once, until it
 /// goes away; a component of which anything is alive then stays in the process. All calls throw Failures.
 class Components {
 public:
     /// Reads a component file, or gives the component that has been read from it. Fails as ComponentFile does.
     KnownComponent& add(const std::filesystem::path& file);
+    /// Adds the component files of a folder (*.Ocx) by their names. One that cannot be read is left out, and not missed
+    /// until its class is asked for.
+    void addFrom(const std::filesystem::path& folder);
 
     /// Creates an instance by ProgID, class id or class name, without case. What no known component has is looked for
-    /// in the registration stores, the user's first, and its component is added. Fails with ClassNotAvailable when the
-    /// class is not registered, or its component lacks it after all; with FileNotFound or BadComponent when the
-    /// registered file is gone or broken; and as reading the stores and the class's Initialize do.
+    /// in the registration stores, the user's first, then among the installed components, and its component is added.
+    /// Fails with ClassNotAvailable when there is no such class, or its registered component lacks it after all; with
+    /// FileNotFound or BadComponent when the registered file is gone or broken; and as reading the stores and the
+    /// class's Initialize do.
     Ref<Object> create(StringView name);
 
     /// The one instance of an application object, found in the same way; see LoadedComponent::application().
@@ -58,7 +65,8 @@ private:
         String className;
     };
     Found find(StringView name);
-    Found findRegistered(StringView name);
+    std::optional<Found> findKnown(StringView name);
+    std::optional<Found> findRegistered(StringView name);
 
     std::deque<KnownComponent> known_; ///< which leaves them where they are when it grows
 };

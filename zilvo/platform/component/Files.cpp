@@ -2,8 +2,11 @@
 
 #include <cerrno>
 #include <charconv>
+#include <cstdint>
 #include <cstdio>
+#include <dlfcn.h>
 #include <fcntl.h>
+#include <fstream>
 #include <random>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -154,6 +157,23 @@ std::filesystem::path withoutLinks(std::filesystem::path file) {
         file = file.parent_path() / std::filesystem::read_symlink(file, error);
     }
     return file;
+}
+
+/// A component does not know its own file, but the system knows what is mapped where its data lies. The loader knows
+/// the name that it was given, which may be relative to a folder that is no longer the current one.
+std::filesystem::path fileMappedAt(const void* address) {
+    Dl_info loaded{};
+    if (dladdr(address, &loaded) != 0) {
+        const auto start = reinterpret_cast<std::uintptr_t>(loaded.dli_fbase);
+        std::ifstream maps("/proc/self/maps"); // "7f00-7f10 r--p 00000000 08:01 1234   /the/file"
+        for (std::string line; std::getline(maps, line);) {
+            std::uintptr_t from = 0;
+            std::from_chars(line.data(), line.data() + line.size(), from, 16);
+            const auto path = line.find('/');
+            if (from == start && path != std::string::npos) return line.substr(path);
+        }
+    }
+    throw Failure(Status::FileNotFound, "the file of a component or library that is loaded cannot be found");
 }
 
 std::string whyReadOnly(const std::filesystem::path& path) {

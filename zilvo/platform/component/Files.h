@@ -52,6 +52,9 @@ std::filesystem::path absolutePath(const std::filesystem::path& file);
 /// The file that a link, or a chain of them, names; it may be missing. Of links in a circle, one.
 std::filesystem::path withoutLinks(std::filesystem::path file);
 
+/// The component or library whose code or data an address of this process is. Fails with FileNotFound.
+std::filesystem::path fileMappedAt(const void* address);
+
 /// Why the file or folder cannot be written; empty when it can. By its mode too, which the system does not hold an
 /// administrator to.
 std::string whyReadOnly(const std::filesystem::path& path);

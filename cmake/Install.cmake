@@ -1,0 +1,64 @@
+# What is installed, in parts that can become a package each: Runtime, the platform and the component; Development, what
+# C++ hosts and components are built with; Tools, the console host; Qt, the widgets. No file of it says where it lies, so
+# that the whole can be moved.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Zilvo)
+function(install_targets name part)
+    install(EXPORT Zilvo${name}Targets NAMESPACE Zilvo:: DESTINATION ${package_folder} COMPONENT ${part})
+endfunction()
+
+# Programs find the libraries from where they lie, libraries those beside them, and the component, which the platform
+# looks for in this folder, the ones above.
+file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+set_target_properties(zilvo-seal PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+set_target_properties(ZilvoButtons-445 PROPERTIES INSTALL_RPATH "$ORIGIN/..")
+install(TARGETS ZilvoButtons-445 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zilvo COMPONENT Runtime)
+
+set_target_properties(zilvo-platform PROPERTIES EXPORT_NAME Platform)
+set_target_properties(ZilvoButtons PROPERTIES EXPORT_NAME Buttons)
+install(TARGETS zilvo-platform EXPORT ZilvoPlatformTargets
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+    FILE_SET HEADERS COMPONENT Development)
+install(TARGETS zilvo-seal EXPORT ZilvoPlatformTargets RUNTIME COMPONENT Development)
+install(TARGETS ZilvoButtons EXPORT ZilvoButtonsTargets
+    ARCHIVE COMPONENT Development
+    FILE_SET HEADERS COMPONENT Development)
+install_targets(Platform Development)
+install_targets(Buttons Development)
+
+if(TARGET zilvo)
+    set_target_properties(zilvo PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+    install(TARGETS zilvo EXPORT ZilvoToolsTargets RUNTIME COMPONENT Tools)
+    install_targets(Tools Tools)
+endif()
+
+if(TARGET zilvo-qt)
+    set_target_properties(zilvo-qt PROPERTIES EXPORT_NAME Qt)
+    set_target_properties(zilvo-qt-buttons PROPERTIES EXPORT_NAME QtButtons)
+    set_target_properties(zilvo-qt zilvo-qt-buttons PROPERTIES INSTALL_RPATH "$ORIGIN")
+    install(TARGETS zilvo-qt zilvo-qt-buttons EXPORT ZilvoQtTargets
+        LIBRARY COMPONENT Qt
+        FILE_SET HEADERS COMPONENT Qt)
+    get_target_property(made zilvo-qt-buttons BINARY_DIR)
+    install(DIRECTORY ${made}/zilvo-qt-buttons/zilvo-qt DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Qt
+        FILES_MATCHING PATTERN *.h)
+    install_targets(Qt Qt)
+endif()
+
+configure_package_config_file(cmake/ZilvoConfig.cmake.in ${PROJECT_BINARY_DIR}/ZilvoConfig.cmake
+    INSTALL_DESTINATION ${package_folder} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZilvoConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/ZilvoConfig.cmake ${PROJECT_BINARY_DIR}/ZilvoConfigVersion.cmake
+    DESTINATION ${package_folder} COMPONENT Development)
+
+# The functions for other projects, with what they need, lie to each other as they do here.
+function(install_functions part)
+    foreach(file ${ARGN})
+        get_filename_component(folder ${file} DIRECTORY)
+        install(FILES ${file} DESTINATION ${package_folder}/${folder} COMPONENT ${part})
+    endforeach()
+endfunction()
+install_functions(Development zilvo/library/Component.cmake zilvo/library/Exports.cpp zilvo/library/exports.map)
+install_functions(Qt zilvo-qt/TypedWidgets.cmake tools/typed-widgets.lua tools/headers.lua cmake/Exports.cmake
+                     cmake/exports.map.in)
