@@ -62,3 +62,17 @@ endfunction()
 install_functions(Development zilvo/library/Component.cmake zilvo/library/Exports.cpp zilvo/library/exports.map)
 install_functions(Qt zilvo-qt/TypedWidgets.cmake tools/typed-widgets.lua tools/headers.lua cmake/Exports.cmake
                      cmake/exports.map.in)
+
+# The same for pkg-config; a host compiles as C++20.
+file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" prefix ${prefix})
+function(install_pkg_config part name requires description libraries)
+    configure_file(cmake/zilvo.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${part})
+endfunction()
+install_pkg_config(Development zilvo-platform "" "Runs, hosts and finds controls of any component" -lzilvo-platform)
+install_pkg_config(Development zilvo-buttons zilvo-platform "The controls of ZilvoButtons, typed" -lZilvoButtons)
+if(TARGET zilvo-qt)
+    install_pkg_config(Qt zilvo-qt "zilvo-platform Qt6Widgets >= 6.4" "The controls as widgets of Qt 6"
+                       "-lzilvo-qt-buttons -lzilvo-qt")
+endif()
