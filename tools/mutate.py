@@ -39,8 +39,8 @@ PRECOMPILE = """function(precompile)
 endfunction()
 cmake_language(DEFER CALL precompile)
 """
-# Tests that are not run again or try what the console host makes of faults of its own.
-NOT_RUN = re.compile(r"transcript\.|transcripts$|validate$")
+# Tests that are not run again, try what the console host makes of faults of its own or build other projects.
+NOT_RUN = re.compile(r"transcript\.|transcripts$|validate$|consumers\.")
 SLOW = "FilesTest.*:Registration*:Runtime.*"  # of the unit tests: whole processes and files
 LONGEST = 600  # seconds for a build or for the slow tests together
 NOT_BUILT, SAME, SURVIVED = "does not build", "changes nothing that is built", "survived"

@@ -14,7 +14,7 @@ function(zilvo_add_component target name)
     endif()
     target_link_libraries(${target} PRIVATE Zilvo::Platform)
     target_link_options(${target} PRIVATE -Wl,--version-script=${here}/exports.map)
-    set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${name} SUFFIX ".Ocx"
+    set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${name} SUFFIX ".Ocx" CXX_VISIBILITY_PRESET default
                                                LINK_DEPENDS ${here}/exports.map)
     set(section ${CMAKE_CURRENT_BINARY_DIR}/${name}.section)
     add_dependencies(${target} Zilvo::zilvo-seal)
