@@ -4,7 +4,7 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Zilvo)
-function(install_targets name part)
+function(zilvo_install_targets name part)
     install(EXPORT Zilvo${name}Targets NAMESPACE Zilvo:: DESTINATION ${package_folder} COMPONENT ${part})
 endfunction()
 
@@ -24,13 +24,13 @@ install(TARGETS zilvo-seal EXPORT ZilvoPlatformTargets RUNTIME COMPONENT Develop
 install(TARGETS ZilvoButtons EXPORT ZilvoButtonsTargets
     ARCHIVE COMPONENT Development
     FILE_SET HEADERS COMPONENT Development)
-install_targets(Platform Development)
-install_targets(Buttons Development)
+zilvo_install_targets(Platform Development)
+zilvo_install_targets(Buttons Development)
 
 if(TARGET zilvo)
     set_target_properties(zilvo PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
     install(TARGETS zilvo EXPORT ZilvoToolsTargets RUNTIME COMPONENT Tools)
-    install_targets(Tools Tools)
+    zilvo_install_targets(Tools Tools)
 endif()
 
 if(TARGET zilvo-qt)
@@ -43,7 +43,7 @@ if(TARGET zilvo-qt)
     get_target_property(made zilvo-qt-buttons BINARY_DIR)
     install(DIRECTORY ${made}/zilvo-qt-buttons/zilvo-qt DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Qt
         FILES_MATCHING PATTERN *.h)
-    install_targets(Qt Qt)
+    zilvo_install_targets(Qt Qt)
 endif()
 
 configure_package_config_file(cmake/ZilvoConfig.cmake.in ${PROJECT_BINARY_DIR}/ZilvoConfig.cmake
@@ -53,26 +53,26 @@ install(FILES ${PROJECT_BINARY_DIR}/ZilvoConfig.cmake ${PROJECT_BINARY_DIR}/Zilv
     DESTINATION ${package_folder} COMPONENT Development)
 
 # The functions for other projects, with what they need, lie to each other as they do here.
-function(install_functions part)
+function(zilvo_install_functions part)
     foreach(file ${ARGN})
         get_filename_component(folder ${file} DIRECTORY)
         install(FILES ${file} DESTINATION ${package_folder}/${folder} COMPONENT ${part})
     endforeach()
 endfunction()
-install_functions(Development zilvo/library/Component.cmake zilvo/library/Exports.cpp zilvo/library/exports.map)
-install_functions(Qt zilvo-qt/TypedWidgets.cmake tools/typed-widgets.lua tools/headers.lua cmake/Exports.cmake
+zilvo_install_functions(Development zilvo/library/Component.cmake zilvo/library/Exports.cpp zilvo/library/exports.map)
+zilvo_install_functions(Qt zilvo-qt/TypedWidgets.cmake tools/typed-widgets.lua tools/headers.lua cmake/Exports.cmake
                      cmake/exports.map.in)
 
 # The same for pkg-config; a host compiles as C++20.
 file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" prefix ${prefix})
-function(install_pkg_config part name requires description libraries)
+function(zilvo_install_pkg_config part name requires description libraries)
     configure_file(cmake/zilvo.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${part})
 endfunction()
-install_pkg_config(Development zilvo-platform "" "Runs, hosts and finds controls of any component" -lzilvo-platform)
-install_pkg_config(Development zilvo-buttons zilvo-platform "The controls of ZilvoButtons, typed" -lZilvoButtons)
+zilvo_install_pkg_config(Development zilvo-platform "" "Runs, hosts and finds controls of any component" -lzilvo-platform)
+zilvo_install_pkg_config(Development zilvo-buttons zilvo-platform "The controls of ZilvoButtons, typed" -lZilvoButtons)
 if(TARGET zilvo-qt)
-    install_pkg_config(Qt zilvo-qt "zilvo-platform Qt6Widgets >= 6.4" "The controls as widgets of Qt 6"
+    zilvo_install_pkg_config(Qt zilvo-qt "zilvo-platform Qt6Widgets >= 6.4" "The controls as widgets of Qt 6"
                        "-lzilvo-qt-buttons -lzilvo-qt")
 endif()
