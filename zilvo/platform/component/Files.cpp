@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <fstream>
@@ -147,6 +148,12 @@ std::filesystem::path absolutePath(const std::filesystem::path& file) {
     auto path = std::filesystem::absolute(file, error);
     if (error) throw Failure(Status::FileNotFound, file.string() + " cannot be found: " + error.message());
     return path;
+}
+
+std::optional<std::filesystem::path> folderIn(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value && std::filesystem::path(value).is_absolute() ? std::optional<std::filesystem::path>(value)
+                                                               : std::nullopt;
 }
 
 std::filesystem::path withoutLinks(std::filesystem::path file) {

@@ -3,6 +3,7 @@
 #include "zilvo/platform/values/Status.h"
 
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -48,6 +49,10 @@ void makeFolder(const std::filesystem::path& folder, Status onFailure = Status::
 
 /// Fails with FileNotFound when there is no current folder any more.
 std::filesystem::path absolutePath(const std::filesystem::path& file);
+
+/// The folder that a variable of the environment names. Null when it is not set, or to no absolute path, which counts
+/// as the same.
+std::optional<std::filesystem::path> folderIn(const char* variable);
 
 /// The file that a link, or a chain of them, names; it may be missing. Of links in a circle, one.
 std::filesystem::path withoutLinks(std::filesystem::path file);

@@ -1,7 +1,7 @@
 #include "zilvo/platform/component/RegistrationStore.h"
 
-#include "zilvo/platform/component/RegistrationFile.h"
 #include "zilvo/platform/component/RegistrationText.h"
+#include "zilvo/platform/component/SharedFile.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,13 +12,6 @@ namespace zilvo::platform {
 namespace {
 
 constexpr const char* BelowData = "zilvo/registrations";
-
-/// Null when the variable is not set, or to no absolute path, which counts as the same.
-std::optional<std::filesystem::path> folderIn(const char* variable) {
-    const char* value = std::getenv(variable);
-    return value && std::filesystem::path(value).is_absolute() ? std::optional<std::filesystem::path>(value)
-                                                               : std::nullopt;
-}
 
 } // namespace
 
@@ -55,7 +48,7 @@ std::vector<RegistrationStore> RegistrationStore::all() {
 }
 
 Registrations RegistrationStore::read() const {
-    const auto text = readRegistrationFile(file_);
+    const auto text = readSharedFile(file_, "registrations", Status::RegistrationsUnreadable);
     return text ? registrationsIn(*text, file_.string()) : Registrations();
 }
 
@@ -85,7 +78,7 @@ std::optional<std::string> RegistrationStore::damage() const {
 }
 
 std::optional<std::filesystem::path> RegistrationStore::setAside() {
-    const RegistrationFileLock lock(file_);
+    const SharedFileLock lock(file_, Status::RegistrationsUnwritable);
     return damage() ? std::optional(lock.setAside()) : std::nullopt;
 }
 
@@ -97,7 +90,7 @@ void RegistrationStore::change(const std::function<void(Registrations&)>& edit) 
         return after == before ? std::nullopt : std::optional(after);
     };
     if (!edited()) return; // which needs neither a lock nor permission
-    const RegistrationFileLock lock(file_);
+    const SharedFileLock lock(file_, Status::RegistrationsUnwritable);
     const auto after = edited();
     if (!after) return;
     const std::string text = textOf(*after);
