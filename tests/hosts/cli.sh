@@ -31,6 +31,8 @@ expect 1 'plain.lua:2: stopped here$' run "$work/plain.lua"
 script table.lua '
 error({})'
 expect 1 'table.lua:2: .*table' run "$work/table.lua"
+script message.lua 'error({ code = 5, message = "told so" })'
+expect 1 'message.lua:1: told so$' run "$work/message.lua"
 script nil.lua 'error(nil)'
 expect 1 'nil.lua:1: .*nil' run "$work/nil.lua"
 script syntax.lua 'x = = 1'

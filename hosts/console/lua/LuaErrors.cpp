@@ -20,7 +20,7 @@ bool isFailure(lua_State* L, int index) {
     return same;
 }
 
-/// A field of a failure that is text; a script may have put anything there.
+/// A field of a failure, or of a script's own error, that is text; a script may have put anything there.
 std::string textField(lua_State* L, int index, const char* name) {
     index = lua_absindex(L, index);
     lua_pushstring(L, name);
@@ -94,6 +94,8 @@ int errorText(lua_State* L) {
     if (lua_type(L, -1) == LUA_TNUMBER || luaL_getmetafield(L, -1, "__tostring") != LUA_TNIL) {
         if (lua_type(L, -1) != LUA_TNUMBER) lua_pop(L, 1);
         text = luaL_tolstring(L, -1, nullptr);
+    } else if (lua_istable(L, -1) && !textField(L, -1, "message").empty()) {
+        text = textField(L, -1, "message");
     } else {
         text = std::string("the error is a ") + luaL_typename(L, -1) + " value";
     }

@@ -12,7 +12,8 @@ void defineErrors(lua_State* L);
 /// "script.lua:12", the innermost line of Lua that is running; empty for none.
 std::string whereIn(lua_State* L);
 
-/// Replaces the error value at the top, whatever it is, by its text with the script line. A message handler.
+/// Replaces the error value at the top, whatever it is, by its text with the script line: of a table that is no failure
+/// and does not say otherwise, its `message`. A message handler.
 int errorText(lua_State* L);
 
 /// Takes the error value of an event's handler from the top of the stack and keeps it for the call that led
