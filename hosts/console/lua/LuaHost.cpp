@@ -4,6 +4,7 @@
 #include "hosts/console/lua/LuaErrors.h"
 #include "hosts/console/lua/LuaGlobals.h"
 #include "hosts/console/lua/LuaHostTable.h"
+#include "hosts/console/lua/LuaLiteral.h"
 #include "hosts/console/lua/LuaObject.h"
 #include "hosts/console/lua/LuaUserdata.h"
 #include "hosts/console/lua/LuaValues.h"
@@ -167,10 +168,8 @@ int runStatement(lua_State* L) {
     lua_call(L, 0, LUA_MULTRET);
     const int given = lua_gettop(L) - before;
     luaL_checkstack(L, 2, "for printing");
-    for (int i = 1; i <= given; ++i) {
-        std::cout << (i > 1 ? "\t" : "") << luaL_tolstring(L, before + i, nullptr);
-        lua_pop(L, 1);
-    }
+    for (int i = 1; i <= given; ++i)
+        std::cout << (i > 1 ? "\t" : "") << literalOf(L, before + i);
     if (given > 0) std::cout << '\n';
     return 0;
 }

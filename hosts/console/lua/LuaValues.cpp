@@ -486,6 +486,39 @@ void pushJson(lua_State* L, const Json& json) {
     }
 }
 
+std::optional<std::string> pushParts(lua_State* L, int index) {
+    if (const auto* value = findUserdata<LuaValue>(L, index)) {
+        pushVariant(L, value->value);
+        return "zilvo." + toUtf8(nameOf(value->value.kind()));
+    }
+    if (const auto* array = findUserdata<LuaArray>(L, index)) {
+        const lua_Integer lower = lowerOf(array->array);
+        lua_pushinteger(L, lower);
+        lua_newtable(L);
+        for (lua_Integer at = 1; at <= static_cast<lua_Integer>(array->array.size()); ++at) {
+            lua_pushboolean(L, isTrue(array->array.At(static_cast<Long>(lower + at - 1))));
+            lua_rawseti(L, -2, at);
+        }
+        return "zilvo.array";
+    }
+    if (const auto* font = findUserdata<LuaFont>(L, index)) {
+        const FontRef usual = StdFont::make({});
+        lua_newtable(L);
+        for (const MemberDescription& member : font->font->description().members) {
+            Variant own;
+            Variant common;
+            access(*font->font, member, Access::Get, {}, &own);
+            access(*usual, member, Access::Get, {}, &common);
+            if (equalByValue(own, common)) continue;
+            pushText(L, member.name);
+            pushVariant(L, own);
+            lua_rawset(L, -3);
+        }
+        return "zilvo.Font";
+    }
+    return std::nullopt;
+}
+
 std::string shownType(lua_State* L, int index) {
     switch (lua_type(L, index)) {
     case LUA_TNONE:

@@ -26,6 +26,10 @@ void pushText(lua_State* L, platform::StringView text);
 void pushText(lua_State* L, const std::string& text);
 void pushJson(lua_State* L, const Json& json);
 
+/// Of a value of a kind, a font or a zilvo.array: pushes what makes such a one, a font's usual members left out, and
+/// gives what makes it: "zilvo.Integer". Null, with nothing pushed, for anything else.
+std::optional<std::string> pushParts(lua_State* L, int index);
+
 /// Arguments of the host's own functions; all fail with TypeMismatch, naming `what`.
 platform::String textAt(lua_State* L, int index, const std::string& what);
 platform::Single singleAt(lua_State* L, int index, const std::string& what);

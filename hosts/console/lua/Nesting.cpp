@@ -1,8 +1,9 @@
 #include "hosts/console/lua/Nesting.h"
 
+#include "hosts/console/lua/LuaWords.h"
+
 #include <algorithm>
 #include <array>
-#include <cctype>
 
 namespace zilvo::console {
 
@@ -18,10 +19,6 @@ std::string endingOf(std::string_view text) {
     const auto inner = text.find_first_not_of('=', 1);
     if (!text.starts_with('[') || inner == std::string_view::npos || text[inner] != '[') return {};
     return "]" + std::string(inner - 1, '=') + "]";
-}
-
-bool isOfWord(char letter) {
-    return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_';
 }
 
 /// Where the word, the text in quotes or the single character ends that `text` begins with.
