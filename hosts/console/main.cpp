@@ -3,6 +3,7 @@
 #include "hosts/console/Gallery.h"
 #include "hosts/console/Idl.h"
 #include "hosts/console/Inspect.h"
+#include "hosts/console/LineEditor.h"
 #include "hosts/console/Output.h"
 #include "hosts/console/Register.h"
 #include "hosts/console/Registrations.h"
@@ -57,7 +58,14 @@ int repl(const CommandLine& given) {
     Components components;
     components.add(componentFile(given.component));
     LuaHost host(components);
-    host.converse(std::cin, isatty(STDIN_FILENO) != 0);
+    const bool isTyped = isatty(STDIN_FILENO) != 0;
+    if (isTyped && isatty(STDOUT_FILENO) != 0) {
+        LineEditor editor([](std::string_view) { return Completion(); });
+        host.converse(editor);
+    } else {
+        StreamReader reader(std::cin, isTyped);
+        host.converse(reader);
+    }
     return 0;
 }
 

@@ -115,7 +115,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::cerr.rdbuf(nullptr);                                       // where the script's errors go
     fuzz::Input in(data, size);
     std::istringstream script(Script(in).text());
-    console::LuaHost(components).converse(script, false);
+    console::StreamReader reader(script, false);
+    console::LuaHost(components).converse(reader);
     fuzz::require(components.liveObjects() == 1, "nothing is left alive");
     return 0;
 }

@@ -15,6 +15,7 @@
 #include <lualib.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <iterator>
 #include <map>
@@ -161,9 +162,23 @@ bool load(lua_State* L, Statement& statement) {
     return false;
 }
 
+/// Ends what runs when whoever typed it has had enough of it. Code that catches errors is ended with its next step:
+/// from then on each step fails.
+void onStep(lua_State* L, lua_Debug* /*frame*/) {
+    constexpr int Seldom = 1000;
+    const Interrupts* interrupts = sessionOf(L).interrupts;
+    const bool wanted = interrupts && interrupts->wanted();
+    if (const int steps = wanted ? 1 : Seldom; lua_gethookcount(L) != steps)
+        lua_sethook(L, onStep, LUA_MASKCOUNT, steps);
+    if (!wanted) return;
+    lua_pushliteral(L, "interrupted");
+    lua_error(L);
+}
+
 int runStatement(lua_State* L) {
     auto& statement = passed<Statement>(L);
     if (!load(L, statement)) return lua_error(L);
+    if (sessionOf(L).interrupts && !lua_gethook(L)) lua_sethook(L, onStep, LUA_MASKCOUNT, 1);
     const int before = lua_gettop(L) - 1;
     lua_call(L, 0, LUA_MULTRET);
     const int given = lua_gettop(L) - before;
@@ -239,18 +254,22 @@ bool LuaHost::play(Transcript& transcript, const std::string& file, const std::f
     return succeeded;
 }
 
-void LuaHost::converse(std::istream& in, bool prompts) {
+void LuaHost::converse(LineReader& reader) {
     constexpr std::size_t Long = 20000; // bytes of a statement
     lua_State* L = lua_.get();
+    const Interrupts* interrupts = reader.interrupts();
+    session_.interrupts = interrupts;
     Statement statement;
-    std::string line;
     for (bool more = true; more;) {
-        if (prompts) std::cout << (statement.isIncomplete ? ">> " : "> ") << std::flush;
-        more = static_cast<bool>(std::getline(in, line));
-        if (prompts && !more) std::cout << '\n';
+        const Typed typed = reader.read(statement.isIncomplete ? ">> " : "> ");
+        more = typed.how != Typed::How::End;
+        if (typed.how == Typed::How::Dropped) {
+            statement = {};
+            continue;
+        }
         if (more) {
-            statement.text += (statement.isIncomplete ? "\n" : "") + line;
-            statement.nesting.read(line);
+            statement.text += (statement.isIncomplete ? "\n" : "") + typed.line;
+            statement.nesting.read(typed.line);
             // Another try compiles all of it again: a long one is tried only when it can be whole.
             statement.isIncomplete = statement.text.size() > Long && statement.nesting.isOpen();
             if (statement.isIncomplete) continue;
@@ -260,10 +279,16 @@ void LuaHost::converse(std::istream& in, bool prompts) {
         statement.isIncomplete = false;
         const bool succeeded = callProtected(L, runStatement, statement);
         std::cout.flush();
+        if (interrupts && interrupts->wanted()) { // what it cut short of the output is no loss
+            std::cout.clear();
+            std::clearerr(stdout);
+            std::cout << std::endl;
+        }
         if (statement.isIncomplete && more) continue;
         if (!succeeded) std::cerr << errorOf(L) << '\n';
         statement = {};
     }
+    session_.interrupts = nullptr;
 }
 
 } // namespace zilvo::console

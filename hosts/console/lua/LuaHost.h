@@ -1,11 +1,11 @@
 #pragma once
 
+#include "hosts/console/LineReader.h"
 #include "hosts/console/Transcript.h"
 #include "hosts/console/lua/LuaSession.h"
 
 #include <lua.h>
 
-#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,9 +28,9 @@ public:
     /// Whether the lines are one or more whole statements of Lua, right or wrong.
     bool isWhole(const std::string& lines);
 
-    /// Reads and runs statements and expressions until the input ends. An error ends the statement only.
-    /// Prompts are for people.
-    void converse(std::istream& in, bool prompts);
+    /// Reads and runs statements and expressions until the input ends. An error or an interrupt ends the statement
+    /// only.
+    void converse(LineReader& reader);
 
 private:
     struct Close {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/console/Interrupts.h"
 #include "hosts/console/Observer.h"
 #include "zilvo/platform/component/Components.h"
 
@@ -24,6 +25,8 @@ public:
     std::size_t beeps = 0;
     /// Writes down what happens while a transcript is played; else null.
     std::unique_ptr<Observer> observer;
+    /// Asked now and then while a statement of a conversation runs; null where nobody interrupts it.
+    const Interrupts* interrupts = nullptr;
     /// Told each line of the script itself that is about to run.
     std::function<void(std::size_t line)> reached;
     /// The Lua thread whose call into the component is running: an event's handler runs on it.

@@ -1,0 +1,143 @@
+#include "hosts/console/LineEditor.h"
+
+#include "zilvo/platform/values/Status.h"
+
+#include <algorithm>
+#include <clocale>
+#include <cstdio>
+#include <histedit.h>
+#include <iomanip>
+#include <iostream>
+
+namespace zilvo::console {
+
+using namespace platform;
+
+namespace {
+
+/// What all of the words begin with.
+std::string_view commonBeginning(const std::vector<std::string>& words) {
+    std::string_view common = words.front();
+    for (const std::string& word : words)
+        common = common.substr(0, static_cast<std::size_t>(std::ranges::mismatch(common, word).in1 - common.begin()));
+    return common;
+}
+
+} // namespace
+
+void LineEditor::End::operator()(EditLine* editor) const noexcept {
+    el_end(editor);
+}
+
+void LineEditor::End::operator()(History* lines) const noexcept {
+    history_end(lines);
+}
+
+LineEditor::LineEditor(std::function<Completion(std::string_view)> complete)
+    : complete_(std::move(complete)), history_(history_init()) {
+    std::setlocale(LC_CTYPE, "C.UTF-8"); // as scripts are written, whatever the user's language
+    editor_.reset(el_init("zilvo", stdin, stdout, stderr));
+    EditLine* editor = editor_.get();
+    if (!history_ || !editor) throw Failure(Status::OutOfMemory, "there is no memory for the prompt");
+    HistEvent event{};
+    ::history(history_.get(), &event, H_SETSIZE, HistoryFile::MostLines);
+    ::history(history_.get(), &event, H_SETUNIQUE, 1);
+    el_set(editor, EL_CLIENTDATA, this);
+    el_set(editor, EL_PROMPT, promptOf);
+    el_set(editor, EL_SIGNAL, 1);
+    el_set(editor, EL_EDITOR, "emacs");
+    el_set(editor, EL_HIST, ::history, history_.get());
+    el_source(editor, nullptr); // the user's own keys
+    el_set(editor, EL_ADDFN, "zilvo-complete", "Completes the name before the cursor", completeIn);
+    el_set(editor, EL_BIND, "^I", "zilvo-complete", nullptr);
+    el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+    useFile([this](const HistoryFile& file) {
+        for (const std::string& line : file.lines())
+            recall(line);
+    });
+}
+
+Typed LineEditor::read(const std::string& prompt) {
+    std::cout.flush();
+    interrupts_.forget();
+    prompt_ = prompt;
+    int count = 0;
+    if (const char* text = el_gets(editor_.get(), &count)) {
+        std::string line(text, static_cast<std::size_t>(count));
+        if (line.ends_with('\n')) line.pop_back();
+        remember(line);
+        return {Typed::How::Line, line};
+    }
+    std::cout << '\n';
+    return {interrupts_.wanted() ? Typed::How::Dropped : Typed::How::End, {}};
+}
+
+LineEditor& LineEditor::of(EditLine* editor) {
+    LineEditor* self = nullptr;
+    el_get(editor, EL_CLIENTDATA, &self);
+    return *self;
+}
+
+char* LineEditor::promptOf(EditLine* editor) {
+    return of(editor).prompt_.data();
+}
+
+/// Nothing is thrown through the editor, which is C.
+unsigned char LineEditor::completeIn(EditLine* editor, int /*key*/) {
+    try {
+        return of(editor).complete();
+    } catch (...) {
+        return CC_ERROR;
+    }
+}
+
+unsigned char LineEditor::complete() {
+    const LineInfo* line = el_line(editor_.get());
+    const Completion found = complete_({line->buffer, static_cast<std::size_t>(line->cursor - line->buffer)});
+    if (found.words.empty()) return CC_REFRESH_BEEP;
+    std::string missing(commonBeginning(found.words).substr(found.begun));
+    if (found.words.size() == 1) missing += found.ending;
+    if (!missing.empty()) return el_insertstr(editor_.get(), missing.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
+    if (found.words.size() == 1) return CC_REFRESH;
+    list(found.words);
+    return CC_REDISPLAY;
+}
+
+/// In columns as wide as the longest word.
+void LineEditor::list(const std::vector<std::string>& words) {
+    int width = 0;
+    el_get(editor_.get(), EL_GETTC, "co", &width);
+    const auto longest = static_cast<int>(std::ranges::max(words, {}, &std::string::size).size()) + 2;
+    const int columns = std::max(1, width / longest);
+    int column = 0;
+    for (const std::string& word : words) {
+        std::cout << (column == 0 ? "\n" : "") << std::left << std::setw(longest) << word;
+        column = (column + 1) % columns;
+    }
+    std::cout << std::endl;
+}
+
+void LineEditor::recall(const std::string& line) {
+    HistEvent event{};
+    ::history(history_.get(), &event, H_ENTER, line.c_str());
+}
+
+void LineEditor::remember(const std::string& line) {
+    if (line.find_first_not_of(" \t") == std::string::npos) return;
+    recall(line);
+    useFile([&](const HistoryFile& file) { file.add(line); });
+}
+
+/// The prompt goes on without a history that cannot be kept.
+template <class Use>
+void LineEditor::useFile(const Use& use) {
+    if (!file_) return;
+    try {
+        use(*file_);
+    } catch (const Failure& failure) {
+        std::cerr << "zilvo: no history is kept: " << failure.what() << '\n';
+        file_.reset();
+    }
+}
+
+} // namespace zilvo::console
