@@ -60,7 +60,7 @@ int repl(const CommandLine& given) {
     LuaHost host(components);
     const bool isTyped = isatty(STDIN_FILENO) != 0;
     if (isTyped && isatty(STDOUT_FILENO) != 0) {
-        LineEditor editor([](std::string_view) { return Completion(); });
+        LineEditor editor([&](std::string_view line) { return host.complete(line); });
         host.converse(editor);
     } else {
         StreamReader reader(std::cin, isTyped);

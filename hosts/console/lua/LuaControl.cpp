@@ -6,6 +6,7 @@
 #include "hosts/console/lua/LuaEvents.h"
 #include "hosts/console/lua/LuaGlobals.h"
 #include "hosts/console/lua/LuaParts.h"
+#include "hosts/console/lua/LuaUserdata.h"
 #include "hosts/console/lua/LuaValues.h"
 #include "hosts/console/lua/LuaWidget.h"
 #include "zilvo/platform/component/Files.h"
@@ -357,6 +358,19 @@ void defineControls(lua_State* L) {
     defineObjects(L, metamethods);
     defineEvents(L);
     defineParts(L);
+}
+
+void addControlNames(lua_State* L, int index, MemberNames& names) {
+    const auto* control = findUserdata<LuaControl>(L, index);
+    if (!control) return;
+    names.add(control->object->description());
+    for (const EventDescription& event : control->object->description().events)
+        names.events.insert(toUtf8(event.name));
+    for (const luaL_Reg& field : fields)
+        names.fields.insert(field.name);
+    for (const luaL_Reg& method : methods)
+        names.methods.insert(method.name);
+    if (control->host) names.add(control->host->control().surface());
 }
 
 } // namespace zilvo::console

@@ -1,5 +1,6 @@
 #include "hosts/console/lua/LuaHost.h"
 
+#include "hosts/console/lua/LuaCompletion.h"
 #include "hosts/console/lua/LuaControl.h"
 #include "hosts/console/lua/LuaErrors.h"
 #include "hosts/console/lua/LuaGlobals.h"
@@ -189,6 +190,17 @@ int runStatement(lua_State* L) {
     return 0;
 }
 
+struct Completing {
+    std::string_view line;
+    Completion found;
+};
+
+int runCompletion(lua_State* L) {
+    auto& completing = passed<Completing>(L);
+    completing.found = completionOf(L, completing.line);
+    return 0;
+}
+
 /// Calls the function with a pointer to what it works on. False leaves the error's text on the stack.
 template <class T>
 bool callProtected(lua_State* L, lua_CFunction function, T& subject) {
@@ -289,6 +301,16 @@ void LuaHost::converse(LineReader& reader) {
         statement = {};
     }
     session_.interrupts = nullptr;
+}
+
+Completion LuaHost::complete(std::string_view line) {
+    lua_State* L = lua_.get();
+    Completing completing{line, {}};
+    const bool collects = lua_gc(L, LUA_GCISRUNNING) != 0;
+    lua_gc(L, LUA_GCSTOP); // finalizers are the script's code
+    callProtected(L, guarded<runCompletion>, completing);
+    if (collects) lua_gc(L, LUA_GCRESTART);
+    return completing.found;
 }
 
 } // namespace zilvo::console

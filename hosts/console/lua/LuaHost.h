@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/console/LineEditor.h"
 #include "hosts/console/LineReader.h"
 #include "hosts/console/Transcript.h"
 #include "hosts/console/lua/LuaSession.h"
@@ -31,6 +32,9 @@ public:
     /// Reads and runs statements and expressions until the input ends. An error or an interrupt ends the statement
     /// only.
     void converse(LineReader& reader);
+
+    /// What can stand at the end of a line of a conversation. Runs no code of the script, and never fails.
+    Completion complete(std::string_view line);
 
 private:
     struct Close {

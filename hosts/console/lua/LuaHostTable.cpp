@@ -64,4 +64,9 @@ void defineHostTable(lua_State* L) {
     lua_setglobal(L, "zilvo");
 }
 
+void addHostTableNames(MemberNames& names) {
+    for (const luaL_Reg& counter : counters)
+        names.fields.insert(counter.name);
+}
+
 } // namespace zilvo::console

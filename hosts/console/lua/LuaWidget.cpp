@@ -155,4 +155,17 @@ void pushWidgetNamed(lua_State* L, int controlIndex, const Surface& surface, con
     pushWidget(L, controlIndex, *widget);
 }
 
+void addWidgetNames(lua_State* L, int index, MemberNames& names) {
+    const auto* handle = findUserdata<LuaWidget>(L, index);
+    if (!handle) return;
+    lua_getiuservalue(L, index, 1);
+    if (!findUserdata<LuaControl>(L, -1)) return; // with which it is gone
+    Widget& widget = *handle->widget;
+    names.add(widget.description());
+    for (const luaL_Reg& method : methods)
+        names.methods.insert(method.name);
+    if (const Described* embedded = widget.embeddedMembers()) names.add(embedded->description());
+    if (const Surface* inner = widget.embeddedSurface()) names.add(*inner);
+}
+
 } // namespace zilvo::console

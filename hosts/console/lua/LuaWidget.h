@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zilvo/platform/widgets/Surface.h"
+#include "hosts/console/lua/LuaMembers.h"
 
 #include <lua.h>
 
@@ -15,5 +15,8 @@ void pushWidget(lua_State* L, int controlIndex, platform::Widget& widget);
 /// surface in messages. Fails with UnknownMember or MissingElement.
 void pushWidgetNamed(lua_State* L, int controlIndex, const platform::Surface& surface, const std::string& owner,
                      int nameIndex);
+
+/// Adds what a script can use of the widget at that index; nothing for anything else.
+void addWidgetNames(lua_State* L, int index, MemberNames& names);
 
 } // namespace zilvo::console

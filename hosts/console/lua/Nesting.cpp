@@ -12,8 +12,6 @@ namespace {
 constexpr std::array<std::string_view, 7> openings = {"function", "if", "do", "repeat", "(", "[", "{"};
 constexpr std::array<std::string_view, 5> endings = {"end", "until", ")", "]", "}"};
 
-constexpr std::string_view Comment = "--";
-
 /// "]==]" for what begins with "[==["; else empty.
 std::string endingOf(std::string_view text) {
     const auto inner = text.find_first_not_of('=', 1);
@@ -21,7 +19,8 @@ std::string endingOf(std::string_view text) {
     return "]" + std::string(inner - 1, '=') + "]";
 }
 
-/// Where the word, the text in quotes or the single character ends that `text` begins with.
+} // namespace
+
 std::size_t tokenLength(std::string_view text) {
     std::size_t end = 1;
     if (text.front() == '"' || text.front() == '\'') {
@@ -33,8 +32,6 @@ std::size_t tokenLength(std::string_view text) {
         ++end;
     return end;
 }
-
-} // namespace
 
 void Nesting::read(std::string_view line) {
     const auto skip = [&](std::size_t length) { line.remove_prefix(std::min(length, line.size())); };
