@@ -8,6 +8,8 @@
 #include <histedit.h>
 #include <iomanip>
 #include <iostream>
+#include <termios.h>
+#include <unistd.h>
 
 namespace zilvo::console {
 
@@ -22,6 +24,27 @@ std::string_view commonBeginning(const std::vector<std::string>& words) {
         common = common.substr(0, static_cast<std::size_t>(std::ranges::mismatch(common, word).in1 - common.begin()));
     return common;
 }
+
+/// While it lives, Ctrl-C is a key of the terminal like any other: a signal could come between two of the editor's
+/// steps and go unheard.
+class InterruptKeyOff {
+public:
+    InterruptKeyOff() {
+        if (!isTerminal_) return;
+        termios without = before_;
+        without.c_cc[VINTR] = _POSIX_VDISABLE;
+        tcsetattr(STDIN_FILENO, TCSANOW, &without);
+    }
+    InterruptKeyOff(const InterruptKeyOff&) = delete;
+    InterruptKeyOff& operator=(const InterruptKeyOff&) = delete;
+    ~InterruptKeyOff() {
+        if (isTerminal_) tcsetattr(STDIN_FILENO, TCSANOW, &before_);
+    }
+
+private:
+    termios before_{};
+    bool isTerminal_ = tcgetattr(STDIN_FILENO, &before_) == 0; ///< no more, once it is hung up
+};
 
 } // namespace
 
@@ -50,6 +73,8 @@ LineEditor::LineEditor(std::function<Completion(std::string_view)> complete)
     el_source(editor, nullptr); // the user's own keys
     el_set(editor, EL_ADDFN, "zilvo-complete", "Completes the name before the cursor", completeIn);
     el_set(editor, EL_BIND, "^I", "zilvo-complete", nullptr);
+    el_set(editor, EL_ADDFN, "zilvo-drop", "Drops the line", dropIn);
+    el_set(editor, EL_BIND, "^C", "zilvo-drop", nullptr);
     el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     useFile([this](const HistoryFile& file) {
         for (const std::string& line : file.lines())
@@ -61,10 +86,16 @@ Typed LineEditor::read(const std::string& prompt) {
     std::cout.flush();
     interrupts_.forget();
     prompt_ = prompt;
+    dropped_ = false;
     int count = 0;
-    if (const char* text = el_gets(editor_.get(), &count)) {
+    const auto edited = [&] {
+        const InterruptKeyOff off;
+        return el_gets(editor_.get(), &count);
+    };
+    if (const char* text = edited()) {
         std::string line(text, static_cast<std::size_t>(count));
         if (line.ends_with('\n')) line.pop_back();
+        if (dropped_) return {Typed::How::Dropped, {}};
         remember(line);
         return {Typed::How::Line, line};
     }
@@ -89,6 +120,14 @@ unsigned char LineEditor::completeIn(EditLine* editor, int /*key*/) {
     } catch (...) {
         return CC_ERROR;
     }
+}
+
+unsigned char LineEditor::dropIn(EditLine* editor, int /*key*/) {
+    of(editor).dropped_ = true;
+    const LineInfo* line = el_line(editor);
+    el_cursor(editor, static_cast<int>(line->lastchar - line->cursor));
+    el_push(editor, "\n"); // as if it were entered, so that the next one is below it
+    return CC_REFRESH;
 }
 
 unsigned char LineEditor::complete() {

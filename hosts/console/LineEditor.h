@@ -40,6 +40,7 @@ private:
     static LineEditor& of(editline* editor);
     static char* promptOf(editline* editor);
     static unsigned char completeIn(editline* editor, int key);
+    static unsigned char dropIn(editline* editor, int key);
 
     unsigned char complete();
     void list(const std::vector<std::string>& words);
@@ -50,6 +51,7 @@ private:
 
     std::function<Completion(std::string_view before)> complete_;
     std::string prompt_;
+    bool dropped_ = false;
     Interrupts interrupts_;
     std::optional<HistoryFile> file_ = HistoryFile::usual();
     std::unique_ptr<struct history, End> history_;

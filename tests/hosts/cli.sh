@@ -113,6 +113,25 @@ printf '%s\n' '1 + 1' 'error("oh")' 'for i = 5, 6 do' 'print(i)' 'end' 'x = zilv
 [ "$(tr '\n' ' ' <"$work/out")" = '2 5 6 true	true ' ] || complain "the conversation printed something else"
 [ "$(grep -c . "$work/err")" -eq 3 ] || complain "the conversation had other errors"
 
+# Values are shown as a script would write them; a table's message is its error's text.
+cat >"$work/typed" <<'END'
+'"\n\27', 2.0, 1/0, zilvo.Integer(5), zilvo.array(3, { true }), zilvo.Font { Size = 9 }, zilvo.create("GOButton")
+t = { 1, { "x" }, ["a b"] = nil, x = 1, ["end"] = 2, [0] = true } t.t = t t[2].up = t[2]
+t
+{ { { { { 1 } } } } }, ("x"):rep(3), setmetatable({}, { __tostring = function() return "own" end })
+{ ("a"):rep(60), ("b"):rep(60) }
+error({ message = "told so" })
+END
+cat >"$work/expected" <<'END'
+"\"\n\x1B"	2.0	math.huge	zilvo.Integer(5)	zilvo.array(3, {true})	zilvo.Font({Size = 9.0})	control GOButton
+{[0] = true, ["end"] = 2, t = <cycle>, x = 1, 1, {up = <cycle [2]>, "x"}}
+{{{{{...}}}}}	"xxx"	own
+END
+"$program" --component "$component" repl <"$work/typed" >"$work/out" 2>"$work/err"
+head -n 3 "$work/out" | cmp -s "$work/expected" - || complain "the values are $(cat "$work/out")"
+[ "$(sed -n '4,$p' "$work/out" | cut -c1-5 | tr '\n' ' ')" = '{   "aa   "bb } ' ] || complain 'a long table is no list'
+[ "$(cat "$work/err")" = 'stdin:1: told so' ] || complain "the table's message is $(cat "$work/err")"
+
 # What is long is not compiled anew with each of its lines, and runs where it ends.
 {
     printf '%s\n' 'function many() --[==[ if' 'do ]] ( ]==] return #{'
