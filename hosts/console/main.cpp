@@ -266,7 +266,10 @@ private:
         plays.add_option("files", given_.transcripts, "the transcripts")->type_name("FILE.lua")->required();
         plays.add_flag("--write", given_.write, "writes what is observed into them");
         takeTimeout(plays, "how long each statement may take");
-        add("repl", "reads and runs statements from standard input", repl);
+        add("repl", "reads and runs statements from standard input, and shows the values of expressions", repl)
+            .footer("At a terminal, Tab completes names, Ctrl-R searches the history, Ctrl-C drops what is typed or\n"
+                    "ends what runs, and Ctrl-D ends the program; other keys can be given in ~/.editrc. The history\n"
+                    "is in $XDG_STATE_HOME/zilvo/history, else ~/.local/state/zilvo/history.");
     }
 
     void addDescriptions() {

@@ -121,7 +121,7 @@ Completion among(const std::set<std::string>& names, std::string_view begun, std
 Completion completionOf(lua_State* L, std::string_view line) {
     auto tokens = tokensOf(line);
     if (!tokens) return {};
-    if (tokens->empty()) return {.begun = 0, .words = {"    "}, .ending = {}};
+    if (tokens->empty()) return {.begun = 0, .words = {"    "}, .ending = {}}; // Tab indents, also what is pasted
     std::string_view begun;
     if (isOpenText(tokens->back())) {
         const auto quote = tokens->back().substr(0, 1);
