@@ -3,6 +3,7 @@
 #include "zilvo/platform/values/Status.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <histedit.h>
@@ -99,8 +100,9 @@ Typed LineEditor::read(const std::string& prompt) {
         remember(line);
         return {Typed::How::Line, line};
     }
+    const bool isSignalled = count < 0 && errno == EINTR;
     std::cout << '\n';
-    return {interrupts_.wanted() ? Typed::How::Dropped : Typed::How::End, {}};
+    return {isSignalled ? Typed::How::Dropped : Typed::How::End, {}};
 }
 
 LineEditor& LineEditor::of(EditLine* editor) {

@@ -93,7 +93,7 @@ std::string shownForPeople(lua_State* L, int index, unsigned depth = 0) {
         if (lua_type(L, -2) == LUA_TSTRING) named[lua_tostring(L, -2)] = shownForPeople(L, lua_gettop(L), depth + 1);
     std::string text;
     for (const auto& [name, value] : named)
-        text += (text.empty() ? "" : ", ") + name + " = " + value;
+        text.append(text.empty() ? "" : ", ").append(name).append(" = ").append(value);
     const auto count = static_cast<lua_Integer>(lua_rawlen(L, index));
     for (lua_Integer at = 1; at <= count; ++at) {
         lua_rawgeti(L, index, at);

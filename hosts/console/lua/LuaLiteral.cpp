@@ -5,10 +5,13 @@
 
 #include <lauxlib.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <map>
+#include <tuple>
+#include <vector>
 
 namespace zilvo::console {
 
@@ -49,7 +52,9 @@ struct Key {
     lua_Number number;
     std::string text;
 
-    auto operator<=>(const Key&) const = default;
+    bool operator<(const Key& other) const {
+        return std::tie(rank, number, text) < std::tie(other.rank, other.number, other.text);
+    }
 };
 
 class Writer {
@@ -194,10 +199,10 @@ private:
         for (const std::string& text : entries)
             line += (line.empty() ? "" : ", ") + text;
         if (line.size() <= MostInLine && line.find('\n') == std::string::npos) return "{" + line + "}";
-        const std::string margin(2 * open_.size(), ' ');
-        std::string lines = "{\n";
+        const std::string margin = "\n" + std::string(2 * open_.size(), ' ');
+        std::string lines = "{";
         for (const std::string& text : entries)
-            lines += margin + "  " + text + ",\n";
+            lines.append(margin).append("  ").append(text).append(",");
         return lines + margin + "}";
     }
 
