@@ -6,7 +6,6 @@
 #include "hosts/console/lua/LuaGlobals.h"
 #include "hosts/console/lua/LuaHostTable.h"
 #include "hosts/console/lua/LuaLiteral.h"
-#include "hosts/console/lua/LuaObject.h"
 #include "hosts/console/lua/LuaUserdata.h"
 #include "hosts/console/lua/LuaValues.h"
 #include "hosts/console/lua/LuaWidget.h"
