@@ -6,8 +6,11 @@
 
 #include <array>
 #include <bit>
+#include <cerrno>
 #include <charconv>
+#include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <optional>
 
@@ -21,7 +24,8 @@ namespace {
     throw Failure(status, name + describe(value) + why + toUtf8(nameOf(wanted)));
 }
 
-/// The number that a text of decimal digits holds, blanks around it allowed.
+/// The number that a text of decimal digits holds, blanks around it allowed, in any locale. Infinity stands for what is
+/// beyond all doubles or too near to 0 for them.
 std::optional<double> parseNumber(StringView text) {
     std::string digits;
     for (const char16_t unit : text) {
@@ -30,22 +34,16 @@ std::optional<double> parseNumber(StringView text) {
     }
     const auto first = digits.find_first_not_of(" \t");
     if (first == std::string::npos) return std::nullopt;
-    const auto last = digits.find_last_not_of(" \t");
-    std::string_view number(digits.data() + first, last - first + 1);
-    if (number.front() == '+') {
-        number.remove_prefix(1);
-        if (number.empty() || number.front() == '-') return std::nullopt;
-    }
-    const auto unsignedPart = number.substr(number.empty() || number.front() != '-' ? 0 : 1);
-    if (unsignedPart.find_first_of("0123456789") == std::string_view::npos ||
-        unsignedPart.find_first_not_of("0123456789.eE+-") != std::string_view::npos)
-        return std::nullopt;
-    double result = 0;
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), result);
-    if (end != number.data() + number.size()) return std::nullopt;
-    if (error == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
-    if (error != std::errc()) return std::nullopt;
-    return result;
+    const auto number = digits.substr(first, digits.find_last_not_of(" \t") - first + 1);
+    // strtod() takes more than that: hexadecimal digits, words, other blanks.
+    if (number.find_first_not_of("0123456789.eE+-") != std::string::npos) return std::nullopt;
+    static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
+    char* end = nullptr;
+    errno = 0;
+    const double result = strtod_l(number.c_str(), &end, classic);
+    if (end != number.c_str() + number.size()) return std::nullopt;
+    const bool isOut = errno == ERANGE && (result == 0 || std::isinf(result)); // a denormal number is none
+    return isOut ? std::numeric_limits<double>::infinity() : result;
 }
 
 double numberOf(const Variant& value, StringView what, Kind wanted) {
