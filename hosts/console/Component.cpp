@@ -43,10 +43,11 @@ std::filesystem::path componentFile(const std::filesystem::path& named) {
     Registrations registrations;
     inContext(nothing, [&] {
         for (const RegistrationStore& store : RegistrationStore::all())
-            std::ranges::move(store.read(), std::back_inserter(registrations));
+            for (Registration& each : store.read())
+                registrations.push_back(std::move(each));
     });
-    const auto nameOfFile = [](const Registration& each) { return each.file.filename(); };
-    const auto usual = std::ranges::find(registrations, UsualName, nameOfFile);
+    const auto isUsual = [](const Registration& each) { return each.file.filename() == UsualName; };
+    const auto usual = std::find_if(registrations.begin(), registrations.end(), isUsual);
     if (usual != registrations.end()) return usual->file;
     if (isThere(installed)) return installed;
     if (!registrations.empty()) return registrations.front().file;

@@ -91,11 +91,14 @@ Json enumerationJson(const EnumerationDescription& enumeration) {
 
 bool uses(const ClassEntry& entry, const EnumerationDescription& enumeration) {
     const auto carries = [&](const ArgumentDescription& argument) { return argument.type.enumeration == &enumeration; };
+    const auto anyCarries = [&](std::span<const ArgumentDescription> arguments) {
+        return std::any_of(arguments.begin(), arguments.end(), carries);
+    };
     for (const MemberDescription& member : entry.description.members)
-        if (member.type.enumeration == &enumeration || std::ranges::any_of(member.arguments(), carries)) return true;
-    return std::ranges::any_of(entry.description.events, [&](const EventDescription& event) {
-        return std::ranges::any_of(event.arguments(), carries);
-    });
+        if (member.type.enumeration == &enumeration || anyCarries(member.arguments())) return true;
+    for (const EventDescription& event : entry.description.events)
+        if (anyCarries(event.arguments())) return true;
+    return false;
 }
 
 std::string signature(std::span<const ArgumentDescription> arguments, bool allByReference) {

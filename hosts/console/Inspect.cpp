@@ -98,8 +98,8 @@ Json widgetJson(Widget& widget) {
     };
     for (const auto* at = &widget.description(); at; at = at->base)
         for (const MemberDescription& member : at->members) {
-            const bool isCommon =
-                std::ranges::any_of(commonMembers, [&](StringView common) { return sameName(common, member.name); });
+            const auto isThis = [&](StringView common) { return sameName(common, member.name); };
+            const bool isCommon = std::any_of(std::begin(commonMembers), std::end(commonMembers), isThis);
             if (member.accessor(Access::Get) && !isCommon)
                 entry.emplace(lowerCamelCase(member.name), propertyJson(widget, member.name));
         }

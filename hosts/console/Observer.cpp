@@ -15,8 +15,8 @@ namespace {
 /// "0x00C0C0C0": with capital digits, as colours are written in the sources.
 std::string shownColour(Colour colour) {
     auto text = hexadecimal(colour.value);
-    std::ranges::transform(text.begin() + 2, text.end(), text.begin() + 2,
-                           [](unsigned char digit) { return static_cast<char>(std::toupper(digit)); });
+    std::transform(text.begin() + 2, text.end(), text.begin() + 2,
+                   [](unsigned char digit) { return static_cast<char>(std::toupper(digit)); });
     return text;
 }
 
@@ -119,7 +119,7 @@ public:
     void add(Part part, std::array<StringView, 2> leftOut = {u"Name", u"Index"}) {
         for (const ClassDescription* at = &part.members->description(); at; at = at->base)
             for (const MemberDescription& member : at->members)
-                if (member.accessor(Access::Get) && std::ranges::count(leftOut, member.name) == 0)
+                if (member.accessor(Access::Get) && std::count(leftOut.begin(), leftOut.end(), member.name) == 0)
                     part.read.push_back(&member);
         for (const MemberDescription* member : part.read)
             part.values.push_back(valueOf(part, *member));
@@ -235,7 +235,8 @@ std::vector<std::string> Observer::taken() {
 }
 
 Observer::Watched* Observer::find(const Object& object) noexcept {
-    const auto found = std::ranges::find(watched_, &object, [](const auto& watched) { return &watched->object; });
+    const auto found = std::find_if(watched_.begin(), watched_.end(),
+                                    [&](const auto& watched) { return &watched->object == &object; });
     return found == watched_.end() ? nullptr : found->get();
 }
 

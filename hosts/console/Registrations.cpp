@@ -24,7 +24,8 @@ constexpr std::string_view Gone = "gone";
 
 template <class Part>
 bool areAmong(const std::vector<Part>& parts, const std::vector<Part>& all) {
-    return std::ranges::all_of(parts, [&](const Part& part) { return std::ranges::find(all, part) != all.end(); });
+    const auto isAmong = [&](const Part& part) { return std::find(all.begin(), all.end(), part) != all.end(); };
+    return std::all_of(parts.begin(), parts.end(), isAmong);
 }
 
 /// All that is registered is published, and each class that is published is registered, if for another component.
@@ -32,7 +33,7 @@ bool isTheSame(const Registration& registered, const Registration& published, co
     const auto isRegistered = [&](const Registration::Class& each) { return registeredClasses.contains(each.classId); };
     return (!registered.library || registered.library == published.library) &&
            areAmong(registered.classes, published.classes) && areAmong(registered.interfaces, published.interfaces) &&
-           std::ranges::all_of(published.classes, isRegistered);
+           std::all_of(published.classes.begin(), published.classes.end(), isRegistered);
 }
 
 State stateOf(const Registration& registered, const std::set<Guid>& registeredClasses) {

@@ -36,8 +36,8 @@ void extractResources(const ComponentFile& component, const std::vector<std::str
     for (const Resource& resource : resources)
         if (names.empty()) chosen.push_back(&resource);
     for (const std::string& name : names) {
-        const auto at = std::ranges::find_if(
-            resources, [&](const Resource& resource) { return sameName(resource.name, toUtf16(name)); });
+        const auto at = std::find_if(resources.begin(), resources.end(),
+                                     [&](const Resource& resource) { return sameName(resource.name, toUtf16(name)); });
         if (at == resources.end())
             throw Failure(Status::Failed, toUtf8(component.description().library.name) + " has no resource " + name);
         chosen.push_back(&*at);

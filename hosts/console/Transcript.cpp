@@ -108,7 +108,9 @@ std::string Transcript::script() const {
 }
 
 Transcript::Statement* Transcript::at(std::size_t line) noexcept {
-    const auto found = std::ranges::lower_bound(statements_, line, {}, &Statement::last);
+    const auto found =
+        std::lower_bound(statements_.begin(), statements_.end(), line,
+                         [](const Statement& statement, std::size_t number) { return statement.last < number; });
     return found == statements_.end() || found->first > line ? nullptr : &*found;
 }
 
@@ -142,8 +144,9 @@ std::string Transcript::differences(const std::string& file) const {
 }
 
 std::size_t Transcript::countOfDifferences() const {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        statements_, [](const Statement& statement) { return statement.observed != statement.written; }));
+    return static_cast<std::size_t>(
+        std::count_if(statements_.begin(), statements_.end(),
+                      [](const Statement& statement) { return statement.observed != statement.written; }));
 }
 
 } // namespace zilvo::console

@@ -163,7 +163,8 @@ int listRegistrations(const CommandLine& given) {
     const Json all = registrations();
     std::cout << (given.json ? all.dump(2, ' ', false, Json::error_handler_t::replace) + "\n" : registrationsText(all));
     const auto isReadable = [](const Json& file) { return file.at("problem").is_null(); };
-    return std::ranges::all_of(all.at("files"), isReadable) ? 0 : 1;
+    const Json& files = all.at("files");
+    return std::all_of(files.begin(), files.end(), isReadable) ? 0 : 1;
 }
 
 int validateFile(const CommandLine& given) {

@@ -284,7 +284,8 @@ inline constexpr std::array<ToolboxPicture, 17> toolboxPictures = {{
         "...###########.."}},
 }};
 // clang-format on
-static_assert(std::ranges::all_of(toolboxPictures, &ToolboxPicture::isWhole));
+static_assert(std::all_of(toolboxPictures.begin(), toolboxPictures.end(),
+                          [](const ToolboxPicture& picture) { return picture.isWhole(); }));
 
 /// A control without a picture does not compile; null for a class that is no control.
 constexpr const ToolboxPicture* toolboxPictureOf(const ClassIdentity& identity) {

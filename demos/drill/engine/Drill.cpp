@@ -15,7 +15,7 @@ void require(bool met, int value, const char* what) {
 
 int cardsPerMinute(Pace pace) {
     constexpr int perMinute[] = {30, 45, 60, 90, 120, 180};
-    return perMinute[std::ranges::find(Paces, pace) - std::begin(Paces)];
+    return perMinute[std::find(std::begin(Paces), std::end(Paces), pace) - std::begin(Paces)];
 }
 
 const Settings& check(const Settings& settings) {
@@ -30,7 +30,7 @@ const Settings& check(const Settings& settings) {
     require((spread & others) == 0, spread & others, " are seats that are taken twice");
     require(played >= PlayedCards::ToDiscardTray && played <= PlayedCards::ToShoe, static_cast<int>(played),
             " is no place for played cards");
-    require(std::ranges::count(Paces, pace) == 1, static_cast<int>(pace), " is no pace");
+    require(std::count(std::begin(Paces), std::end(Paces), pace) == 1, static_cast<int>(pace), " is no pace");
     return settings;
 }
 

@@ -121,8 +121,8 @@ int printObserved(lua_State* L) {
     const int count = lua_gettop(L);
     for (int at = 1; at <= count; ++at)
         text += " " + shownForPeople(L, at);
-    std::ranges::replace_if(
-        text, [](unsigned char letter) { return letter < 0x20; }, ' ');
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char letter) { return letter < 0x20; }, ' ');
     if (const auto& observer = sessionOf(L).observer) observer->note("prints" + text);
     return 0;
 }
@@ -245,7 +245,7 @@ bool LuaHost::play(Transcript& transcript, const std::string& file, const std::f
     Transcript::Statement* running = nullptr;
     const auto finish = [&] {
         auto lines = session_.observer->taken();
-        if (running) std::ranges::move(lines, std::back_inserter(running->observed));
+        if (running) std::move(lines.begin(), lines.end(), std::back_inserter(running->observed));
     };
     session_.reached = [&](std::size_t line) {
         Transcript::Statement* statement = transcript.at(line);

@@ -48,8 +48,10 @@ void Nesting::read(std::string_view line) {
         ending_ = endingOf(line);
         if (comment && ending_.empty()) return;
         const auto token = line.substr(0, ending_.empty() ? tokenLength(line) : ending_.size());
-        if (ending_.empty())
-            depth_ += static_cast<int>(std::ranges::count(openings, token) - std::ranges::count(endings, token));
+        const auto countIn = [&](const auto& words) {
+            return static_cast<int>(std::count(words.begin(), words.end(), token));
+        };
+        if (ending_.empty()) depth_ += countIn(openings) - countIn(endings);
         skip(token.size());
     }
 }

@@ -54,7 +54,7 @@ void checks::fileAndRuntime(Check& check, LoadedComponent& component) {
                                                                 std::to_string(running.size()));
     for (const Resource& resource : running) {
         const auto name = toUtf8(resource.type) + " " + toUtf8(resource.name);
-        const auto at = std::ranges::find_if(file.resources(), [&](const Resource& each) {
+        const auto at = std::find_if(file.resources().begin(), file.resources().end(), [&](const Resource& each) {
             return each.type == resource.type && each.name == resource.name;
         });
         if (check.expect(at != file.resources().end(), "lacks " + name))

@@ -124,7 +124,7 @@ void callIn(Check& check, const LoadedComponent& component, const ClassEntry& en
     const std::string name = callNames[static_cast<std::size_t>(call)];
     Hosted hosted(component, entry);
     expectCalls(check, hosted, nameOf(entry), stage.before);
-    const bool isLegal = std::ranges::find(stage.legal, call) != stage.legal.end();
+    const bool isLegal = std::find(stage.legal.begin(), stage.legal.end(), call) != stage.legal.end();
     check.step(nameOf(entry) + ", " + name + " while " + stage.name);
     if (!expectStatus(check, hosted.make(call), isLegal ? Status::Ok : Status::UnexpectedCall) || isLegal) return;
     const auto afterwards = nameOf(entry) + ", after a refused " + name + " while " + stage.name;
@@ -202,8 +202,9 @@ namespace {
 using Defaults = MemoryPropertyBag::Defaults;
 
 const Variant* findSetting(const MemoryPropertyBag& bag, StringView name) {
-    const auto at = std::ranges::find_if(
-        bag.settings(), [&](const MemoryPropertyBag::Setting& setting) { return sameName(setting.name, name); });
+    const auto at =
+        std::find_if(bag.settings().begin(), bag.settings().end(),
+                     [&](const MemoryPropertyBag::Setting& setting) { return sameName(setting.name, name); });
     return at == bag.settings().end() ? nullptr : &at->value;
 }
 

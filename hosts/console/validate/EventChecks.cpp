@@ -160,7 +160,7 @@ void checks::eventsRaised(Check& check, LoadedComponent& component) {
                   .verify = [&](Subject&, const Answer& answer, bool) { expectClean(check, answer); }});
         std::string never;
         for (const EventDescription& event : entry.description.events)
-            if (std::ranges::find(raised, &event) == raised.end()) never += " " + toUtf8(event.name);
+            if (std::find(raised.begin(), raised.end(), &event) == raised.end()) never += " " + toUtf8(event.name);
         check.step(nameOf(entry));
         if (!never.empty()) check.warn("nothing raised" + never);
     });

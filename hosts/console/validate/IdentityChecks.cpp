@@ -43,8 +43,8 @@ public:
 private:
     static bool isIdentifier(std::string_view folded) {
         const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
-        return !folded.empty() && isLetter(folded.front()) &&
-               std::ranges::all_of(folded, [&](char c) { return isLetter(c) || (c >= '0' && c <= '9') || c == '_'; });
+        const auto isInside = [&](char c) { return isLetter(c) || (c >= '0' && c <= '9') || c == '_'; };
+        return !folded.empty() && isLetter(folded.front()) && std::all_of(folded.begin(), folded.end(), isInside);
     }
 
     Unique names_;
@@ -185,9 +185,10 @@ void checks::enumerations(Check& check, LoadedComponent& component) {
     forEachClass(check, component, [&](const ClassEntry& entry) {
         const auto expectPublished = [&](const Type& type, StringView user) {
             if (!type.enumeration) return;
-            check.expect(
-                std::ranges::find(published, type.enumeration->id, &EnumerationDescription::id) != published.end(),
-                toUtf8(user) + " uses the enumeration " + toUtf8(type.enumeration->name) + ", which is not published");
+            const auto isIt = [&](const auto* each) { return each->id == type.enumeration->id; };
+            check.expect(std::any_of(published.begin(), published.end(), isIt),
+                         toUtf8(user) + " uses the enumeration " + toUtf8(type.enumeration->name) +
+                             ", which is not published");
             check.expect(type.kind == Kind::Long,
                          toUtf8(user) + " uses an enumeration as " + toUtf8(nameOf(type.kind)));
         };
@@ -245,13 +246,13 @@ std::optional<Guid> guidIn(std::span<const std::uint8_t> bytes) {
     };
     if (bytes.size() != 20 || number(0, 4) != 16) return std::nullopt;
     Guid id{number(4, 4), static_cast<std::uint16_t>(number(8, 2)), static_cast<std::uint16_t>(number(10, 2)), {}};
-    std::ranges::copy(bytes.subspan(12), id.data4.begin());
+    std::copy(bytes.begin() + 12, bytes.end(), id.data4.begin());
     return id;
 }
 
 const Resource* findResource(std::span<const Resource> resources, StringView type, StringView name) {
-    const auto at = std::ranges::find_if(
-        resources, [&](const Resource& each) { return each.type == type && sameName(each.name, name); });
+    const auto at = std::find_if(resources.begin(), resources.end(),
+                                 [&](const Resource& each) { return each.type == type && sameName(each.name, name); });
     return at == resources.end() ? nullptr : &*at;
 }
 
@@ -289,7 +290,8 @@ void checks::resources(Check& check, LoadedComponent& component) {
     check.step("the version record");
     const auto& version = description.version.version;
     check.expect(findResource(all, u"VERSION", u"1") != nullptr, "is missing");
-    check.expect(std::ranges::any_of(version, [](std::uint16_t part) { return part != 0; }), "states the version 0");
+    check.expect(std::any_of(version.begin(), version.end(), [](std::uint16_t part) { return part != 0; }),
+                 "states the version 0");
     if (description.version.strings.empty()) check.warn("states nothing but the number");
 }
 

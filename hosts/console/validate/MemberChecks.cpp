@@ -118,7 +118,8 @@ namespace {
 void callUnknown(Check& check, Object& object) {
     const auto members = object.description().members;
     MemberId unknown = 0x7E57;
-    while (std::ranges::find(members, unknown, &MemberDescription::id) != members.end())
+    const auto isIt = [&](const MemberDescription& each) { return each.id == unknown; };
+    while (std::any_of(members.begin(), members.end(), isIt))
         ++unknown;
     constexpr StringView noName = u"NoSuchMember";
     for (const Access how : {Access::Get, Access::Put, Access::PutReference, Access::Method}) {

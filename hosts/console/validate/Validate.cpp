@@ -54,8 +54,8 @@ std::string oneLine(std::string_view text) {
     constexpr std::size_t Most = 1000;
     std::string line(text.substr(0, Most));
     if (text.size() > Most) line += "...";
-    std::ranges::replace_if(
-        line, [](unsigned char letter) { return letter < 0x20 || letter == 0x7F; }, ' ');
+    std::replace_if(
+        line.begin(), line.end(), [](unsigned char letter) { return letter < 0x20 || letter == 0x7F; }, ' ');
     return line;
 }
 

@@ -24,7 +24,8 @@ Guid ByteReader::id() {
     id.data1 = number<std::uint32_t>();
     id.data2 = number<std::uint16_t>();
     id.data3 = number<std::uint16_t>();
-    std::ranges::copy(take(id.data4.size()), id.data4.begin());
+    const auto rest = take(id.data4.size());
+    std::copy(rest.begin(), rest.end(), id.data4.begin());
     return id;
 }
 

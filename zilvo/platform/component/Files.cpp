@@ -98,7 +98,7 @@ struct Writing {
         if (!out.isOpen()) fail(systemReason());
         if (earlier) {
             [[maybe_unused]] const int kept = fchown(out.number(), earlier->st_uid, earlier->st_gid);
-            if (fchmod(out.number(), earlier->st_mode & ALLPERMS) != 0) fail(systemReason());
+            if (fchmod(out.number(), earlier->st_mode & 07777) != 0) fail(systemReason());
         }
         into(out.number());
         if (!synchronise(out) || !fresh.rename(target)) fail(systemReason());

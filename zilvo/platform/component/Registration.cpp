@@ -102,7 +102,7 @@ Registrations takeOut(const Registration& own, Registrations& from) {
 }
 
 void enter(const Registration& newcomer, Registrations& into) {
-    if (std::ranges::find(into, newcomer) != into.end()) return;
+    if (std::find(into.begin(), into.end(), newcomer) != into.end()) return;
     takeOut(newcomer, into);
     into.push_back(newcomer);
 }

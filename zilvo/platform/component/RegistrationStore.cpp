@@ -54,7 +54,9 @@ Registrations RegistrationStore::read() const {
 
 std::optional<Registration> RegistrationStore::find(const std::filesystem::path& componentFile) const {
     const auto all = read();
-    const auto found = std::ranges::find(all, registeredPath(componentFile), &Registration::file);
+    const auto path = registeredPath(componentFile);
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&](const Registration& each) { return each.file == path; });
     return found == all.end() ? std::nullopt : std::optional(*found);
 }
 

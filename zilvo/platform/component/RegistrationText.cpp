@@ -46,7 +46,7 @@ std::optional<Number> parse(std::string_view text, int base = 10) {
 // Lines. Any bytes fit into one.
 
 std::string escaped(std::string_view bytes) {
-    const bool isAscii = std::ranges::all_of(bytes, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+    const bool isAscii = std::all_of(bytes.begin(), bytes.end(), [](unsigned char byte) { return byte < 0x80; });
     const bool isUtf8 = isAscii || toUtf8(toUtf16(bytes)) == bytes;
     const auto isPlain = [&](std::size_t at) {
         const auto byte = static_cast<unsigned char>(bytes[at]);
@@ -273,8 +273,10 @@ public:
 
     /// Fails when there is a key that nothing asked for.
     void finish() const {
-        const auto unreadFirst = [](const auto& entry) { return std::pair(entry.second.isRead, entry.second.number); };
-        const auto first = std::ranges::min_element(section_.lines, {}, unreadFirst);
+        const auto unreadFirst = [](const auto& one, const auto& other) {
+            return std::tie(one.second.isRead, one.second.number) < std::tie(other.second.isRead, other.second.number);
+        };
+        const auto first = std::min_element(section_.lines.begin(), section_.lines.end(), unreadFirst);
         if (first != section_.lines.end() && !first->second.isRead)
             source_.refuse(first->second.number, "[" + section_.name + "] has no key " + inQuotes(first->first));
     }
@@ -304,7 +306,7 @@ void checkFrame(std::string_view text, const Source& source) {
                       source.at(1) + "it was written by a newer version, in format " + std::to_string(*format));
     if (first != heading()) source.refuse(1, "it does not begin with " + inQuotes(heading()));
     if (!text.ends_with("\n" + std::string(End) + "\n")) {
-        const auto ends = static_cast<std::size_t>(std::ranges::count(text, '\n'));
+        const auto ends = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
         source.refuse(ends + (text.ends_with('\n') ? 0 : 1), "it is cut short: its last line is not " + inQuotes(End));
     }
 }

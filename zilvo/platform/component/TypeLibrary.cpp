@@ -109,7 +109,7 @@ public:
     }
     void type(const Type& type) {
         number(static_cast<std::uint8_t>(type.kind));
-        const auto at = std::ranges::find(enumerations_, type.enumeration);
+        const auto at = std::find(enumerations_.begin(), enumerations_.end(), type.enumeration);
         count(type.enumeration ? static_cast<std::size_t>(at - enumerations_.begin()) + 1 : 0, enumerations_.size());
     }
     void accessors(const MemberDescription& member) {

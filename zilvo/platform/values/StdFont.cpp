@@ -106,10 +106,11 @@ void StdFont::attach(FontObserver& observer) {
 }
 
 void StdFont::detach(FontObserver& observer) noexcept {
+    const auto isIt = [&](const FontObserver* each) { return each == &observer; };
     if (telling_ == 0)
-        std::erase(observers_, &observer);
+        std::erase_if(observers_, isIt);
     else
-        std::ranges::replace(observers_, &observer, nullptr);
+        std::replace_if(observers_.begin(), observers_.end(), isIt, nullptr);
 }
 
 } // namespace zilvo::platform
