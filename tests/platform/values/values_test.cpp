@@ -40,20 +40,22 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
     for (const Case& tried : cases)
         EXPECT_EQ(toInteger(tried.value), tried.expected) << describe(tried.value);
 
-    for (const Variant& value : {Variant(Long{32768}), Variant(Long{-32769}), Variant(32767.5F), Variant(u"40000"),
-                                 Variant(u"1e999"), Variant(std::numeric_limits<float>::quiet_NaN())})
+    for (const Variant& value :
+         {Variant(Long{32768}), Variant(Long{-32769}), Variant(32767.5F), Variant(u"40000"), Variant(u"1e999"),
+          Variant(u"1e-999"), Variant(std::numeric_limits<float>::quiet_NaN())})
         EXPECT_EQ(statusOf<Integer>(value), Status::Overflow) << describe(value);
     EXPECT_EQ(toLong(Variant(-2147483648.0F)), std::numeric_limits<Long>::min());
     EXPECT_EQ(statusOf<Long>(Variant(2147483648.0F)), Status::Overflow);
     EXPECT_EQ(statusOf<Single>(Variant(u"1e39")), Status::Overflow);
+    EXPECT_EQ(toNumber(Variant(u"4.9e-324")), std::numeric_limits<double>::denorm_min());
     EXPECT_EQ(toColour(Variant(Long{-2147483633})), colours::ButtonFace);
 }
 
 TEST(Conversions, WhatHoldsNoNumberIsATypeMismatch) {
     for (const Variant& value :
          {Variant(u""), Variant(u"12x"), Variant(u"0x10"), Variant(u"inf"), Variant(u"nan"), Variant(u"1 2"),
-          Variant(u"+-3"), Variant(u"--3"), Variant(u"."), Variant(u"\u0663"), Variant(), Variant(Missing()),
-          Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
+          Variant(u"+-3"), Variant(u"++3"), Variant(u"\n3"), Variant(u"1,5"), Variant(u"."), Variant(u"\u0663"),
+          Variant(), Variant(Missing()), Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
         EXPECT_EQ(statusOf<Integer>(value), Status::TypeMismatch) << describe(value);
         EXPECT_EQ(statusOf<bool>(value), Status::TypeMismatch) << describe(value);
     }
