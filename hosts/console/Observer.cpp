@@ -110,7 +110,7 @@ public:
     Watched(Object& watched, std::string ownName) : object(watched), name(std::move(ownName)) {
         add({toUtf8(watched.description().name), {}, &watched, true, {}, {}});
         if (HostedControl* control = watched.hostedControl()) {
-            add({"surface", {}, &control->surfaceMembers(), false, {}, {}});
+            add({"surface", {}, &control->surface().members(), false, {}, {}});
             addWidgets(control->surface(), {});
         }
     }
@@ -150,8 +150,7 @@ private:
             add({label, kindOf(widget), &widget, false, {}, {}});
             if (Surface* inner = widget.embeddedSurface()) {
                 add({label, {}, widget.embeddedMembers(), true, {}, {}});
-                if (auto* members = dynamic_cast<Described*>(inner))
-                    add({label + ".surface", {}, members, false, {}, {}});
+                add({label + ".surface", {}, &inner->members(), false, {}, {}});
                 addWidgets(*inner, label + ".");
             }
         }

@@ -93,7 +93,7 @@ private:
             [](Scene& on) { on.host_->open(on.in_.ConsumeBool() ? &on.store_ : nullptr); },
             [](Scene& on) { on.useWidget(); },
             [](Scene& on) { on.use(on.host_->extenderObject()); },
-            [](Scene& on) { on.use(on.host_->control().surfaceMembers()); },
+            [](Scene& on) { on.use(on.host_->control().surface().members()); },
             [](Scene& on) { on.host_->resize(on.in_.single(), on.in_.single()); },
             [](Scene& on) { on.host_->save(on.store_); },
             [](Scene& on) { on.setAmbient(); },

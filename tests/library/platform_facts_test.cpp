@@ -45,7 +45,7 @@ TEST(PlatformFacts, MembersOfWhatHostsMeet) {
         if (!entry.identity.isControl()) continue;
         ControlHost host(object);
         note(host.extenderObject());
-        note(host.control().surfaceMembers());
+        note(host.control().surface().members());
         for (const Widget& widget : host.control().surface())
             note(widget);
     }

@@ -58,7 +58,7 @@ inline std::vector<Deed> deedsOf(platform::Object& described) {
         });
     };
     for (const StringView member : {u"BackColor", u"ForeColor", u"Width", u"Height"})
-        addPut([](HostedControl& control) -> Described& { return control.surfaceMembers(); }, member, 1234);
+        addPut([](HostedControl& control) -> Described& { return control.surface().members(); }, member, 1234);
     for (Widget& widget : described.hostedControl()->surface()) {
         const auto find = [name = String(widget.name()), index = widget.index()](HostedControl& control) -> Widget& {
             return *control.surface().find(name, index);

@@ -22,7 +22,6 @@ public:
     Status Paint(Painter& painter, ErrorInfo* error) noexcept final;
     void Close() noexcept final;
     Surface& surface() noexcept final { return userControl; }
-    Described& surfaceMembers() noexcept final { return userControl; }
     Widget* focus() noexcept final;
     std::optional<std::chrono::milliseconds> clockWanted() noexcept final { return router_.clockWanted(); }
     String accessKeys() noexcept final;

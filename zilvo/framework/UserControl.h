@@ -52,6 +52,7 @@ public:
 
     // Surface
     ScaleMode childScale() const noexcept override { return scaleMode_; }
+    Described& members() noexcept override { return *this; }
     Rectangle area() const noexcept override { return {0, 0, width_, height_}; }
     Colour backColor() const noexcept override { return backColor_; }
     Colour foreColor() const noexcept override { return foreColor_; }

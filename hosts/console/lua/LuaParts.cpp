@@ -24,7 +24,7 @@ Described& describedOf(lua_State* L, const LuaPart& part) {
     ControlHost& host = hostAt(L, -1);
     switch (part.which) {
     case Part::Surface:
-        return host.control().surfaceMembers();
+        return host.control().surface().members();
     case Part::Extender:
         return host.extenderObject();
     case Part::Ambient:

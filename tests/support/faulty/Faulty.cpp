@@ -136,7 +136,6 @@ public:
     Status Paint(Painter& painter, ErrorInfo* error) noexcept override { return inner_->Paint(painter, error); }
     void Close() noexcept override { inner_->Close(); }
     Surface& surface() noexcept override { return inner_->surface(); }
-    Described& surfaceMembers() noexcept override { return inner_->surfaceMembers(); }
     Widget* focus() noexcept override { return inner_->focus(); }
     std::optional<std::chrono::milliseconds> clockWanted() noexcept override { return inner_->clockWanted(); }
     String accessKeys() noexcept override { return inner_->accessKeys(); }

@@ -46,8 +46,6 @@ public:
 
     /// The control's own surface with its widgets, as long as the control lives.
     virtual Surface& surface() noexcept = 0;
-    /// The members of that surface: size, colours, inner size.
-    virtual Described& surfaceMembers() noexcept = 0;
     /// The widget that has the keyboard; null for none, or when the host fails to tell whether the control is shown.
     virtual Widget* focus() noexcept = 0;
     /// How long until the host's clock matters, by TimePassed: a timer of the host runs that long, and none while there

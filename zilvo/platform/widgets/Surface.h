@@ -53,6 +53,8 @@ public:
     /// Those that are laid out on it, by tab index, then in the order of creation.
     std::vector<Widget*> inTabOrder() const;
 
+    /// Its size, colours and inner size.
+    virtual Described& members() noexcept = 0;
     /// Twips.
     virtual Rectangle area() const noexcept = 0;
     virtual Colour backColor() const noexcept = 0;
