@@ -54,8 +54,8 @@ TEST(Conversions, NumbersRoundHalfToEvenAndOverflowAtTheirBounds) {
 TEST(Conversions, WhatHoldsNoNumberIsATypeMismatch) {
     for (const Variant& value :
          {Variant(u""), Variant(u"12x"), Variant(u"0x10"), Variant(u"inf"), Variant(u"nan"), Variant(u"1 2"),
-          Variant(u"+-3"), Variant(u"++3"), Variant(u"\n3"), Variant(u"1,5"), Variant(u"."), Variant(u"\u0663"),
-          Variant(), Variant(Missing()), Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
+          Variant(u"+-3"), Variant(u"--3"), Variant(u"++3"), Variant(u"\n3"), Variant(u"1,5"), Variant(u"."),
+          Variant(u"\u0663"), Variant(), Variant(Missing()), Variant(someFont()), Variant(BooleanArray(1, {true}))}) {
         EXPECT_EQ(statusOf<Integer>(value), Status::TypeMismatch) << describe(value);
         EXPECT_EQ(statusOf<bool>(value), Status::TypeMismatch) << describe(value);
     }
