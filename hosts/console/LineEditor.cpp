@@ -22,7 +22,9 @@ namespace {
 std::string_view commonBeginning(const std::vector<std::string>& words) {
     std::string_view common = words.front();
     for (const std::string& word : words)
-        common = common.substr(0, static_cast<std::size_t>(std::ranges::mismatch(common, word).in1 - common.begin()));
+        common = common.substr(
+            0, static_cast<std::size_t>(std::mismatch(common.begin(), common.end(), word.begin(), word.end()).first -
+                                        common.begin()));
     return common;
 }
 
@@ -148,7 +150,8 @@ unsigned char LineEditor::complete() {
 void LineEditor::list(const std::vector<std::string>& words) {
     int width = 0;
     el_get(editor_.get(), EL_GETTC, "co", &width);
-    const auto longest = static_cast<int>(std::ranges::max(words, {}, &std::string::size).size()) + 2;
+    const auto isShorter = [](const std::string& one, const std::string& other) { return one.size() < other.size(); };
+    const auto longest = static_cast<int>(std::max_element(words.begin(), words.end(), isShorter)->size()) + 2;
     const int columns = std::max(1, width / longest);
     int column = 0;
     for (const std::string& word : words) {

@@ -18,11 +18,12 @@ constexpr bool isOfWord(char letter) {
 
 /// Whether the text is a word that does not begin with a digit: a name or a keyword.
 constexpr bool isWord(std::string_view text) {
-    return !text.empty() && !(text.front() >= '0' && text.front() <= '9') && std::ranges::all_of(text, isOfWord);
+    return !text.empty() && !(text.front() >= '0' && text.front() <= '9') &&
+           std::all_of(text.begin(), text.end(), isOfWord);
 }
 
 constexpr bool isName(std::string_view text) {
-    return isWord(text) && std::ranges::count(keywords, text) == 0;
+    return isWord(text) && std::find(std::begin(keywords), std::end(keywords), text) == std::end(keywords);
 }
 
 } // namespace zilvo::console

@@ -54,7 +54,7 @@ void Components::addFrom(const std::filesystem::path& folder) {
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(folder, error))
         if (entry.path().extension() == ".Ocx") files.push_back(entry.path());
-    std::ranges::sort(files);
+    std::sort(files.begin(), files.end());
     for (const auto& file : files) {
         ErrorInfo unread;
         atTheEdge(
