@@ -144,6 +144,15 @@ user run "$work/nothing.lua"
 grep -qF "the registrations in $store and $machine have a class Nothing" "$work/out" || complain 'other files are named'
 ! user list --registrations "$work/unused" || complain 'the machine stands behind a named file'
 
+# And those that packages bring, a file each; what a package is about to put there does not count.
+mkdir "$machine.d"
+mv "$machine" "$machine.d/buttons"
+expect 0 'registered Gallery' register "$4" --registrations "$machine.d/gallery"
+cp "$work/cut" "$machine.d/gallery.dpkg-new"
+user run "$demonstration" || complain 'the class of a package was not found'
+user registrations || complain 'a file that is no package'"'"'s yet was read'
+[ "$(grep -c ': there$' "$work/out")" -eq 2 ] || complain 'the registrations of two packages are not listed'
+
 # Only absolute paths are believed.
 (cd "$work" && env -i HOME=home XDG_DATA_HOME=data "$program" register "$component") >"$work/out" 2>&1 &&
     complain 'a relative HOME was believed'

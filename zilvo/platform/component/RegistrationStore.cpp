@@ -13,6 +13,16 @@ namespace {
 
 constexpr const char* BelowData = "zilvo/registrations";
 
+/// By their names; one with an extension belongs to another: its lock, or what a package is about to put there.
+std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> files;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
+        if (entry.path().extension().empty()) files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
 } // namespace
 
 RegistrationStore::RegistrationStore() {
@@ -43,7 +53,12 @@ std::vector<RegistrationStore> RegistrationStore::all() {
     const char* given = std::getenv("XDG_DATA_DIRS");
     std::istringstream folders(given && *given ? given : "/usr/local/share:/usr/share");
     for (std::string folder; std::getline(folders, folder, ':');)
-        if (folder.starts_with('/')) stores.emplace_back(std::filesystem::path(folder) / BelowData);
+        if (folder.starts_with('/')) {
+            const auto file = std::filesystem::path(folder) / BelowData;
+            stores.emplace_back(file);
+            for (const auto& ofPackage : filesIn(file.string() + ".d"))
+                stores.emplace_back(ofPackage);
+        }
     return stores;
 }
 

@@ -25,7 +25,8 @@ public:
     /// than the user's own.
     static std::optional<std::filesystem::path> usualFile();
     /// Where a host looks for a class, one after the other: in the usual file, then in those of the machine,
-    /// zilvo/registrations in each absolute folder of $XDG_DATA_DIRS, which an administrator writes.
+    /// zilvo/registrations in each absolute folder of $XDG_DATA_DIRS, which an administrator writes, and the files
+    /// without an extension in the folder zilvo/registrations.d beside it, of which each package brings its own.
     /// $ZILVO_REGISTRATIONS names the only one.
     static std::vector<RegistrationStore> all();
 
