@@ -2,15 +2,20 @@
 #include "zilvo/platform/component/ComponentRuntime.h"
 #include "zilvo/platform/component/Files.h"
 
+#include <cstring>
 #include <iostream>
 
-/// zilvo-seal COMPONENT SECTION: loads a component that has just been linked and writes what it says of itself, its
-/// resources, into the file SECTION. The build then adds that to the component as a section.
+/// The build then adds the file SECTION to the component as a section.
+constexpr const char* Help =
+    "Usage: zilvo-seal COMPONENT SECTION\n"
+    "Loads a component that has just been linked and writes what it says of itself, its resources, into a file.\n";
+
 int main(int argc, char** argv) try {
     using namespace zilvo::platform;
     if (argc != 3) {
-        std::cerr << "Usage: zilvo-seal COMPONENT SECTION\n";
-        return 1;
+        const bool isAsked = argc == 2 && std::strcmp(argv[1], "--help") == 0;
+        (isAsked ? std::cout : std::cerr) << Help;
+        return isAsked ? 0 : 1;
     }
     const LoadedComponent component(argv[1]);
     const Bytes section = resourceSection(resourcesOf(component.description()));
