@@ -1,6 +1,6 @@
 # What is installed, in parts that can become a package each: Runtime, the platform and the component; Development,
-# what C++ hosts and components are built with; Tools, the console host; Qt, the widgets. No file of it says where it
-# lies, so that the whole can be moved.
+# what C++ hosts and components are built with; Tools, the console host; Qt, the widgets; QtDevelopment, what hosts with
+# widgets are built with. No file of it says where it lies, so that the whole can be moved.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Zilvo)
@@ -38,12 +38,12 @@ if(TARGET zilvo-qt)
     set_target_properties(zilvo-qt-buttons PROPERTIES EXPORT_NAME QtButtons)
     set_target_properties(zilvo-qt zilvo-qt-buttons PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS zilvo-qt zilvo-qt-buttons EXPORT ZilvoQtTargets
-        LIBRARY COMPONENT Qt
-        FILE_SET HEADERS COMPONENT Qt)
+        LIBRARY COMPONENT Qt NAMELINK_COMPONENT QtDevelopment
+        FILE_SET HEADERS COMPONENT QtDevelopment)
     get_target_property(made zilvo-qt-buttons BINARY_DIR)
-    install(DIRECTORY ${made}/zilvo-qt-buttons/zilvo-qt DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Qt
+    install(DIRECTORY ${made}/zilvo-qt-buttons/zilvo-qt DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT QtDevelopment
         FILES_MATCHING PATTERN *.h)
-    zilvo_install_targets(Qt Qt)
+    zilvo_install_targets(Qt QtDevelopment)
 endif()
 
 configure_package_config_file(cmake/ZilvoConfig.cmake.in ${PROJECT_BINARY_DIR}/ZilvoConfig.cmake
@@ -60,8 +60,8 @@ function(zilvo_install_functions part)
     endforeach()
 endfunction()
 zilvo_install_functions(Development zilvo/library/Component.cmake zilvo/library/Exports.cpp zilvo/library/exports.map)
-zilvo_install_functions(Qt zilvo-qt/TypedWidgets.cmake tools/typed-widgets.lua tools/headers.lua cmake/Exports.cmake
-                     cmake/exports.map.in)
+zilvo_install_functions(QtDevelopment zilvo-qt/TypedWidgets.cmake tools/typed-widgets.lua tools/headers.lua
+                        cmake/Exports.cmake cmake/exports.map.in)
 
 # The same for pkg-config; a host compiles as C++20.
 file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
@@ -73,6 +73,6 @@ endfunction()
 zilvo_install_pkg_config(Development zilvo-platform "" "Runs, hosts and finds controls of any component" -lzilvo-platform)
 zilvo_install_pkg_config(Development zilvo-buttons zilvo-platform "The controls of ZilvoButtons, typed" -lZilvoButtons)
 if(TARGET zilvo-qt)
-    zilvo_install_pkg_config(Qt zilvo-qt "zilvo-platform Qt6Widgets >= 6.4" "The controls as widgets of Qt 6"
+    zilvo_install_pkg_config(QtDevelopment zilvo-qt "zilvo-platform Qt6Widgets >= 6.4" "The controls as widgets of Qt 6"
                        "-lzilvo-qt-buttons -lzilvo-qt")
 endif()
