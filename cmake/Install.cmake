@@ -1,6 +1,6 @@
 # What is installed, in parts that can become a package each: Runtime, the platform and the component; Development,
 # what C++ hosts and components are built with; Tools, the console host; Qt, the widgets; QtDevelopment, what hosts with
-# widgets are built with. No file of it says where it lies, so that the whole can be moved.
+# widgets are built with; Drill, the count drill. No file of it says where it lies, so that the whole can be moved.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Zilvo)

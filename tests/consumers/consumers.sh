@@ -36,7 +36,7 @@ case $case in
 install)
     rm -rf installed parts moved
     cmake --install "$build" --prefix "$work/installed" >/dev/null
-    for part in Runtime Development Tools ${qt:+Qt QtDevelopment}; do
+    for part in Runtime Development Tools ${qt:+Qt QtDevelopment Drill}; do
         cmake --install "$build" --prefix "$work/parts" --component "$part" >/dev/null
     done
     diff -r installed parts || fail 'the parts are not the whole'

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What the program says at the command line, and its desktop file: cli.sh PROGRAM SOURCE_FOLDER
+# What the program says at the command line and bash offers there, and its desktop file: cli.sh PROGRAM SOURCE_FOLDER
 set -euo pipefail
 program=$1
 folder=$(mktemp -d)
@@ -25,6 +25,13 @@ fails "Unknown option 'deck'." --deck 4
 
 "$program" --help 2>/dev/null >help
 for option in --help --seed --decks --screenshot --page; do grep -q -- "$option" help; done
+. "$2/demos/drill/completion.bash"
+_zilvo_drill "$program" --se zilvo-drill
+[ "${COMPREPLY[*]}" = --seed ]
+_zilvo_drill "$program" t --page
+[ "${COMPREPLY[*]}" = table ]
+_zilvo_drill "$program" '' --decks
+for decks in "${COMPREPLY[@]}"; do "$program" --decks "$decks" --screenshot decks.png 2>/dev/null; done
 "$program" --seed 7 --page table --screenshot seven.png 2>/dev/null
 "$program" --seed 7 --page table --screenshot again.png 2>/dev/null
 "$program" --seed 8 --page table --screenshot eight.png 2>/dev/null
