@@ -30,7 +30,8 @@ string(REGEX REPLACE "\n+## .*" "" changes "${changes}")
 string(REGEX REPLACE "\n- " "\n  * " changes "${changes}")
 string(REGEX REPLACE "\n  ([^*])" "\n    \\1" changes "${changes}")
 string(REPLACE "`" "" changes "${changes}")
-string(STRIP "${changes}" changes)
+file(WRITE ${debian}/changes "${changes}\n")
+execute_process(COMMAND fmt -tw 78 ${debian}/changes OUTPUT_VARIABLE changes COMMAND_ERROR_IS_FATAL ANY)
 string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file(cmake/debian/changelog.in ${debian}/changelog @ONLY)
 execute_process(COMMAND ${ZILVO_GZIP} -9nf ${debian}/changelog COMMAND_ERROR_IS_FATAL ANY)
@@ -51,35 +52,36 @@ function(zilvo_package part name section summary description)
     set(CPACK_COMPONENTS_ALL ${CPACK_COMPONENTS_ALL} ${part} PARENT_SCOPE)
 endfunction()
 
-set(about "The ZILVO button controls are user-interface controls for blackjack drills: small composite widgets with typed \
-properties, methods, events and saved settings, found and created by their published identifiers.")
-zilvo_package(Runtime libzilvo-platform${PROJECT_VERSION_MAJOR} libs
-    "controls for blackjack drills - component and runtime"
-    "${about}\n.\nThis package has the component with the seventeen controls, registered for all users, and the platform \
-that runs, hosts and finds the controls of any component.")
-zilvo_package(Development libzilvo-dev libdevel
-    "controls for blackjack drills - development files"
-    "${about}\n.\nThis package has what hosts of the controls and further components are built with, in C++20, from CMake or \
-with pkg-config." DEPENDS Runtime)
-zilvo_package(Tools zilvo-tools devel
-    "controls for blackjack drills - console host"
-    "${about}\n.\nThis package has zilvo, which runs host scripts in Lua, describes components, draws their controls, \
-registers and validates them, without a screen." DEPENDS Runtime)
-zilvo_package(Qt libzilvo-qt${PROJECT_VERSION_MAJOR} libs
-    "controls for blackjack drills - widgets of Qt 6"
-    "${about}\n.\nThis package shows the controls of any component as widgets of Qt 6, with a class for each of the seventeen."
-    DEPENDS Runtime RECOMMENDS "fonts-comic-neue, fonts-liberation")
-zilvo_package(QtDevelopment libzilvo-qt-dev libdevel
-    "controls for blackjack drills - development files for Qt 6"
-    "${about}\n.\nThis package has what applications with the controls as widgets of Qt 6 are built with. Together with \
-zilvo-tools it makes typed widget classes of other components, too."
-    DEPENDS Qt Development EXTERNAL "qt6-base-dev (>= 6.4)" RECOMMENDS zilvo-tools)
-zilvo_package(Drill zilvo-drill education
-    "practise keeping the running count of blackjack cards"
-    "Cards are dealt from a shoe at a pace of your choice, to you and to the other players of a table, while you keep the \
-running count. Then you are asked for it, the cards are shown again with the count after each, and your results are kept.\n.\n\
-It is played by pointer, by keyboard alone, or by ear alone with a screen reader."
-    DEPENDS Qt RECOMMENDS libqt6svg6)
+set(about "The ZILVO button controls are user-interface controls for blackjack drills:
+small composite widgets with typed properties, methods, events and saved
+settings, found and created by their published identifiers.
+.
+This package has")
+zilvo_package(Runtime libzilvo-platform${PROJECT_VERSION_MAJOR} libs "controls for blackjack drills - component and runtime"
+"${about} the component with the seventeen controls, registered for
+all users, and the platform that runs, hosts and finds the controls of any
+component.")
+zilvo_package(Development libzilvo-dev libdevel "controls for blackjack drills - development files"
+"${about} what hosts of the controls and further components are
+built with, in C++20, from CMake or with pkg-config." DEPENDS Runtime)
+zilvo_package(Tools zilvo-tools devel "controls for blackjack drills - console host"
+"${about} zilvo, which runs host scripts in Lua, describes components,
+draws their controls, registers and validates them, without a screen." DEPENDS Runtime)
+zilvo_package(Qt libzilvo-qt${PROJECT_VERSION_MAJOR} libs "controls for blackjack drills - widgets of Qt 6"
+"${about} what shows the controls of any component as widgets of
+Qt 6, with a class for each of the seventeen." DEPENDS Runtime RECOMMENDS "fonts-comic-neue, fonts-liberation")
+zilvo_package(QtDevelopment libzilvo-qt-dev libdevel "controls for blackjack drills - development files for Qt 6"
+"${about} what applications with the controls as widgets of Qt 6 are
+built with. Together with zilvo-tools it makes typed widget classes of other
+components, too." DEPENDS Qt Development EXTERNAL "qt6-base-dev (>= 6.4)" RECOMMENDS zilvo-tools)
+zilvo_package(Drill zilvo-drill education "practise keeping the running count of blackjack cards"
+"Cards are dealt from a shoe at a pace of your choice, to you and to the other
+players of a table, while you keep the running count. Then you are asked for
+it, the cards are shown again with the count after each, and your results are
+kept.
+.
+It is played by pointer, by keyboard alone, or by ear alone with a screen
+reader." DEPENDS Qt RECOMMENDS libqt6svg6)
 
 # The component's registration for the machine, as long as its package is there.
 set(component ${CMAKE_INSTALL_FULL_LIBDIR}/zilvo/$<TARGET_FILE_NAME:ZilvoButtons-445>)
