@@ -85,12 +85,13 @@ It is played by pointer, by keyboard alone, or by ear alone with a screen
 reader." DEPENDS Qt RECOMMENDS libqt6svg6)
 
 # The component's registration for the machine, as long as its package is there.
-set(component ${CMAKE_INSTALL_FULL_LIBDIR}/zilvo/$<TARGET_FILE_NAME:ZilvoButtons-445>)
+set(file $<TARGET_FILE_NAME:ZilvoButtons-445>)
 set(registration ${debian}/ZilvoButtons-445)
 add_custom_command(OUTPUT ${registration} VERBATIM
     COMMAND ${CMAKE_COMMAND} -E rm -f ${registration} ${registration}.lock
-    COMMAND zilvo register $<TARGET_FILE:ZilvoButtons-445> --registrations ${registration}
-    COMMAND sed -i "s|^file = .*|file = ${component}|" ${registration}
+    COMMAND zilvo register $<TARGET_FILE:ZilvoButtons-445> --registrations ${registration} > ${registration}.listed
+    COMMAND sed -i "s|= /.*/${file}|= ${CMAKE_INSTALL_FULL_LIBDIR}/zilvo/${file}|" ${registration}
+    COMMAND zilvo registrations --registrations ${registration} > ${registration}.listed
     DEPENDS zilvo ZilvoButtons-445)
 add_custom_target(registration ALL DEPENDS ${registration})
 install(FILES ${registration} DESTINATION ${CMAKE_INSTALL_DATADIR}/zilvo/registrations.d COMPONENT Runtime)
