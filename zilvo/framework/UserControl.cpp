@@ -8,7 +8,7 @@ namespace zilvo {
 
 namespace {
 
-constexpr std::array members = {
+constexpr std::array surfaceMembers = {
     property<&UserControl::get_BackColor, &UserControl::put_BackColor>(1, u"BackColor", u"newBackColor"),
     property<&UserControl::get_ForeColor, &UserControl::put_ForeColor>(2, u"ForeColor", u"newForeColor"),
     property<&UserControl::get_Width, &UserControl::put_Width>(3, u"Width", u"newWidth"),
@@ -16,7 +16,7 @@ constexpr std::array members = {
     property<&UserControl::get_ScaleWidth>(5, u"ScaleWidth"),
     property<&UserControl::get_ScaleHeight>(6, u"ScaleHeight"),
 };
-static_assert(idsAndNamesAreUnique(members));
+static_assert(idsAndNamesAreUnique(surfaceMembers));
 
 void checkLength(const char* what, Single twips) {
     if (!(twips >= 0) || !std::isfinite(twips))
@@ -207,7 +207,7 @@ void UserControl::tellEmbedded(StringView ambientName) {
 }
 
 const ClassDescription& UserControl::description() const noexcept {
-    static constexpr ClassDescription description{.name = u"UserControl", .members = members};
+    static constexpr ClassDescription description{.name = u"UserControl", .members = surfaceMembers};
     return description;
 }
 
