@@ -74,9 +74,10 @@ LineEditor::LineEditor(std::function<Completion(std::string_view)> complete)
     el_set(editor, EL_EDITOR, "emacs");
     el_set(editor, EL_HIST, ::history, history_.get());
     el_source(editor, nullptr); // the user's own keys
-    el_set(editor, EL_ADDFN, "zilvo-complete", "Completes the name before the cursor", completeIn);
+    // Wide, since of narrow ones the editor makes copies that it never frees.
+    el_wset(editor, EL_ADDFN, L"zilvo-complete", L"Completes the name before the cursor", completeIn);
     el_set(editor, EL_BIND, "^I", "zilvo-complete", nullptr);
-    el_set(editor, EL_ADDFN, "zilvo-drop", "Drops the line", dropIn);
+    el_wset(editor, EL_ADDFN, L"zilvo-drop", L"Drops the line", dropIn);
     el_set(editor, EL_BIND, "^C", "zilvo-drop", nullptr);
     el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     useFile([this](const HistoryFile& file) {
