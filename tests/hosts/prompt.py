@@ -48,8 +48,11 @@ for text, *seen in [
     ['c = zilvo.create("ssOK\t)\r', 'Cancel")', "\r\n> "],
     ["c.\t", "OKEnabled", "> c."], ["OKEn\t\r", "abled", "\r\nfalse\r\n> "],
     ["c:wid\t'cmdO\t)\r", "get(", "K'", "CommandButton cmdOK\r\n> "],
+    ["c.surface.Wid\t\r", "th", "\r\n1455.0\r\n> "], ["c:widget('cmdOK').Capt\t\r", "ion", '\r\n"&OK"\r\n> '],
     ['c:on("OK\t, print) c:\t', 'WasClicked", print) c:', "keydown", "> c:on"], [CTRL_C, "\r\n> "],
     ["zilvo.al\t\r", "ive", "\r\n1\r\n> "], ["BJElev\t\r", "enDecks", "\r\n11\r\n> "], ["functi\t", "on"], [CTRL_C, "\r\n> "],
+    ["p = zilvo.create('paneledGOButton')\r", "\r\n> "],
+    ["p:widget('GOButton'):widget('labelGO', 0):cl\t", "ick("], [CTRL_C, "\r\n> "],
     ["t = setmetatable({}, {__index = function() print('called') end})\r", "\r\n> "],
     ["t.a.b\t = 1\r", "\a", " = 1\r\ncalled\r\n", "\r\n> "],
     # What runs is interrupted, in whatever it hides; the prompt and what it knows stay.

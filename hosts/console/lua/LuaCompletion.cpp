@@ -2,6 +2,7 @@
 
 #include "hosts/console/lua/LuaControl.h"
 #include "hosts/console/lua/LuaHostTable.h"
+#include "hosts/console/lua/LuaParts.h"
 #include "hosts/console/lua/LuaSession.h"
 #include "hosts/console/lua/LuaWidget.h"
 #include "hosts/console/lua/LuaWords.h"
@@ -18,8 +19,12 @@ namespace {
 /// Words, texts in quotes and signs.
 using Tokens = std::vector<std::string_view>;
 
+bool isText(std::string_view token) {
+    return token.front() == '"' || token.front() == '\'';
+}
+
 bool isOpenText(std::string_view token) {
-    return (token.front() == '"' || token.front() == '\'') && tokenLength(token) > token.size();
+    return isText(token) && tokenLength(token) > token.size();
 }
 
 /// Null for a line that ends in a comment.
@@ -41,28 +46,57 @@ bool take(Tokens& tokens, std::string_view wanted) {
     return true;
 }
 
-/// Takes the names at the end that have full stops between them; none when something else leads to them.
-Tokens takePath(Tokens& tokens) {
-    Tokens path;
-    do {
-        if (tokens.empty() || !isName(tokens.back())) return {};
-        path.insert(path.begin(), tokens.back());
+/// One step to something: by a name, or to a widget: c:widget("cmdOK").
+struct Step {
+    std::string_view name;
+    bool toWidget;
+    friend bool operator==(const Step&, const Step&) = default;
+};
+using Path = std::vector<Step>;
+
+/// Takes a step from the end: a name, or :widget("optDecks", 2) with whatever index.
+std::optional<Step> takeStep(Tokens& tokens) {
+    if (tokens.empty()) return std::nullopt;
+    if (!take(tokens, ")")) {
+        const auto name = tokens.back();
         tokens.pop_back();
-    } while (take(tokens, "."));
-    return tokens.empty() || tokens.back() != ":" ? path : Tokens();
+        return isName(name) ? std::optional(Step{name, false}) : std::nullopt;
+    }
+    if (tokens.size() > 2 && tokens.end()[-2] == ",") tokens.resize(tokens.size() - 2);
+    if (tokens.empty() || !isText(tokens.back())) return std::nullopt;
+    const auto text = tokens.back();
+    tokens.pop_back();
+    const bool isWhole = take(tokens, "(") && take(tokens, "widget") && take(tokens, ":");
+    return isWhole ? std::optional(Step{text.substr(1, text.size() - 2), true}) : std::nullopt;
 }
 
-/// Pushes what the names lead to from the globals on, through tables alone; nil for nothing.
-void pushPath(lua_State* L, const Tokens& path) {
+/// Takes the steps at the end; none when something else leads to them.
+Path takePath(Tokens& tokens) {
+    Path path;
+    do {
+        const auto step = takeStep(tokens);
+        if (!step) return {};
+        path.insert(path.begin(), *step);
+    } while (path.front().toWidget || take(tokens, "."));
+    return tokens.empty() || tokens.back() != ":" ? path : Path();
+}
+
+/// Pushes what a step leads to from what is at that index; nil for nothing.
+void pushStep(lua_State* L, int index, const Step& step) {
+    if (step.toWidget) return pushFirstWidget(L, index, toUtf16(step.name));
+    if (!lua_istable(L, index)) return pushControlField(L, index, step.name);
+    lua_pushlstring(L, step.name.data(), step.name.size());
+    lua_rawget(L, index);
+}
+
+/// Pushes what the path leads to from the globals on; nil for nothing.
+void pushPath(lua_State* L, const Path& path) {
     lua_pushglobaltable(L);
-    for (const std::string_view name : path) {
-        if (lua_istable(L, -1)) {
-            lua_pushlstring(L, name.data(), name.size());
-            lua_rawget(L, -2);
-        } else {
-            lua_pushnil(L);
-        }
-        lua_remove(L, -2);
+    const int index = lua_gettop(L);
+    for (const Step& step : path) {
+        pushStep(L, index, step);
+        lua_replace(L, index);
+        lua_settop(L, index);
     }
 }
 
@@ -75,14 +109,15 @@ void addEntryNames(lua_State* L, int table, MemberNames& names) {
     }
 }
 
-MemberNames namesOf(lua_State* L, const Tokens& path) {
+MemberNames namesOf(lua_State* L, const Path& path) {
     pushPath(L, path);
     const int index = lua_gettop(L);
     MemberNames names;
     addEntryNames(L, index, names);
     addControlNames(L, index, names);
+    addPartNames(L, index, names);
     addWidgetNames(L, index, names);
-    if (path == Tokens{"zilvo"}) addHostTableNames(names);
+    if (path == Path{{"zilvo", false}}) addHostTableNames(names);
     return names;
 }
 
@@ -100,10 +135,10 @@ std::set<std::string> classNames(const Session& session) {
 std::set<std::string> textsBehind(lua_State* L, Tokens tokens) {
     take(tokens, "(");
     Tokens before = tokens;
-    if (takePath(before) == Tokens{"zilvo", "create"}) return classNames(sessionOf(L));
+    if (takePath(before) == Path{{"zilvo", false}, {"create", false}}) return classNames(sessionOf(L));
     const bool isWidget = take(tokens, "widget");
     if ((!isWidget && !take(tokens, "on")) || !take(tokens, ":")) return {};
-    const Tokens path = takePath(tokens);
+    const Path path = takePath(tokens);
     if (path.empty()) return {};
     const MemberNames names = namesOf(L, path);
     return isWidget ? names.widgets : names.events;
@@ -135,7 +170,7 @@ Completion completionOf(lua_State* L, std::string_view line) {
     }
     const bool isField = take(*tokens, ".");
     if (isField || take(*tokens, ":")) {
-        const Tokens path = takePath(*tokens);
+        const Path path = takePath(*tokens);
         if (path.empty()) return {};
         const MemberNames names = namesOf(L, path);
         return isField ? among(names.fields, begun, "") : among(names.methods, begun, "(");

@@ -360,6 +360,18 @@ void defineControls(lua_State* L) {
     defineParts(L);
 }
 
+void pushControlField(lua_State* L, int index, std::string_view name) {
+    const auto* control = findUserdata<LuaControl>(L, index);
+    if (control && control->host)
+        for (const luaL_Reg& field : fields)
+            if (field.name == name) {
+                lua_pushcfunction(L, field.func);
+                lua_pushvalue(L, index);
+                return lua_call(L, 1, 1);
+            }
+    lua_pushnil(L);
+}
+
 void addControlNames(lua_State* L, int index, MemberNames& names) {
     const auto* control = findUserdata<LuaControl>(L, index);
     if (!control) return;

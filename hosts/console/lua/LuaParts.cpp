@@ -18,11 +18,8 @@ struct LuaPart {
     Part which;
 };
 
-/// Pushes the control's userdata.
-Described& describedOf(lua_State* L, const LuaPart& part) {
-    lua_getiuservalue(L, 1, 1);
-    ControlHost& host = hostAt(L, -1);
-    switch (part.which) {
+Described& describedOf(ControlHost& host, Part which) {
+    switch (which) {
     case Part::Surface:
         return host.control().surface().members();
     case Part::Extender:
@@ -46,7 +43,8 @@ std::string labelOf(lua_State* L, const LuaPart& part) {
 
 int get(lua_State* L) {
     const LuaPart& self = selfAt(L);
-    Described& object = describedOf(L, self);
+    lua_getiuservalue(L, 1, 1);
+    Described& object = describedOf(hostAt(L, -1), self.which);
     const auto label = labelOf(L, self);
     pushProperty(L, object, label, textAt(L, 2, label));
     return 1;
@@ -54,7 +52,8 @@ int get(lua_State* L) {
 
 int set(lua_State* L) {
     const LuaPart& self = selfAt(L);
-    Described& object = describedOf(L, self);
+    lua_getiuservalue(L, 1, 1);
+    Described& object = describedOf(hostAt(L, -1), self.which);
     const auto label = labelOf(L, self);
     const auto name = textAt(L, 2, label);
     if (self.which == Part::Ambient)
@@ -102,6 +101,14 @@ void pushPart(lua_State* L, int controlIndex, Part which) {
     pushUserdata(L, LuaPart{which}, 1);
     lua_pushvalue(L, controlIndex);
     lua_setiuservalue(L, -2, 1);
+}
+
+void addPartNames(lua_State* L, int index, MemberNames& names) {
+    const auto* part = findUserdata<LuaPart>(L, index);
+    if (!part) return;
+    lua_getiuservalue(L, index, 1);
+    if (const auto* control = findUserdata<LuaControl>(L, -1))
+        names.add(describedOf(*control->host, part->which).description());
 }
 
 void setAmbient(ControlHost& host, const std::string& label, const String& name, const Variant& value) {

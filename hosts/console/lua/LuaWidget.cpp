@@ -125,10 +125,19 @@ Integer elementAt(lua_State* L, int index, const std::string& what) {
     return static_cast<Integer>(number);
 }
 
-bool hasName(const Surface& surface, StringView name) {
-    for (const Widget& widget : surface)
-        if (sameName(widget.name(), name)) return true;
-    return false;
+/// Null when there is none.
+Widget* firstNamed(const Surface& surface, StringView name) {
+    for (Widget& widget : surface)
+        if (sameName(widget.name(), name)) return &widget;
+    return nullptr;
+}
+
+/// The widget at that index, with its control's userdata pushed; null for anything else, and once its control is gone.
+Widget* livingAt(lua_State* L, int index) {
+    const auto* handle = findUserdata<LuaWidget>(L, index);
+    if (!handle) return nullptr;
+    lua_getiuservalue(L, index, 1);
+    return findUserdata<LuaControl>(L, -1) ? handle->widget : nullptr;
 }
 
 } // namespace
@@ -146,7 +155,8 @@ void pushWidget(lua_State* L, int controlIndex, Widget& widget) {
 void pushWidgetNamed(lua_State* L, int controlIndex, const Surface& surface, const std::string& owner, int nameIndex) {
     const auto name = textAt(L, nameIndex, owner + ".widget");
     const auto shown = owner + "." + toUtf8(name);
-    if (!hasName(surface, name)) throw Failure(Status::UnknownMember, owner + " has no widget named " + toUtf8(name));
+    if (!firstNamed(surface, name))
+        throw Failure(Status::UnknownMember, owner + " has no widget named " + toUtf8(name));
     const Integer index = elementAt(L, nameIndex + 1, shown);
     Widget* widget = surface.find(name, index);
     if (!widget && index == NoIndex)
@@ -155,17 +165,29 @@ void pushWidgetNamed(lua_State* L, int controlIndex, const Surface& surface, con
     pushWidget(L, controlIndex, *widget);
 }
 
+void pushFirstWidget(lua_State* L, int index, StringView name) {
+    const Surface* surface = nullptr;
+    int controlIndex = index;
+    if (const auto* control = findUserdata<LuaControl>(L, index)) {
+        if (control->host) surface = &control->host->control().surface();
+    } else if (Widget* widget = livingAt(L, index)) {
+        surface = widget->embeddedSurface();
+        controlIndex = lua_gettop(L);
+    }
+    if (Widget* found = surface ? firstNamed(*surface, name) : nullptr)
+        pushWidget(L, controlIndex, *found);
+    else
+        lua_pushnil(L);
+}
+
 void addWidgetNames(lua_State* L, int index, MemberNames& names) {
-    const auto* handle = findUserdata<LuaWidget>(L, index);
-    if (!handle) return;
-    lua_getiuservalue(L, index, 1);
-    if (!findUserdata<LuaControl>(L, -1)) return; // with which it is gone
-    Widget& widget = *handle->widget;
-    names.add(widget.description());
+    Widget* widget = livingAt(L, index);
+    if (!widget) return;
+    names.add(widget->description());
     for (const luaL_Reg& method : methods)
         names.methods.insert(method.name);
-    if (const Described* embedded = widget.embeddedMembers()) names.add(embedded->description());
-    if (const Surface* inner = widget.embeddedSurface()) names.add(*inner);
+    if (const Described* embedded = widget->embeddedMembers()) names.add(embedded->description());
+    if (const Surface* inner = widget->embeddedSurface()) names.add(*inner);
 }
 
 } // namespace zilvo::console

@@ -16,6 +16,10 @@ void pushWidget(lua_State* L, int controlIndex, platform::Widget& widget);
 void pushWidgetNamed(lua_State* L, int controlIndex, const platform::Surface& surface, const std::string& owner,
                      int nameIndex);
 
+/// Pushes the widget by that name of the control or the widget at that index, the first one of a control array; nil
+/// when there is none.
+void pushFirstWidget(lua_State* L, int index, platform::StringView name);
+
 /// Adds what a script can use of the widget at that index; nothing for anything else.
 void addWidgetNames(lua_State* L, int index, MemberNames& names);
 
