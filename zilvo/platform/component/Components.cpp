@@ -3,8 +3,6 @@
 #include "zilvo/platform/component/Files.h"
 #include "zilvo/platform/component/RegistrationStore.h"
 
-#include <algorithm>
-
 namespace zilvo::platform {
 
 namespace {
@@ -50,12 +48,7 @@ KnownComponent& Components::add(const std::filesystem::path& file) {
 }
 
 void Components::addFrom(const std::filesystem::path& folder) {
-    std::vector<std::filesystem::path> files;
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-        if (entry.path().extension() == ".Ocx") files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    for (const auto& file : files) {
+    for (const auto& file : filesIn(folder, ".Ocx")) {
         ErrorInfo unread;
         atTheEdge(
             &unread, [] { return std::string(); }, [&] { add(file); });

@@ -1,5 +1,6 @@
 #include "zilvo/platform/component/Files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdint>
@@ -154,6 +155,16 @@ std::optional<std::filesystem::path> folderIn(const char* variable) {
     const char* value = std::getenv(variable);
     return value && std::filesystem::path(value).is_absolute() ? std::optional<std::filesystem::path>(value)
                                                                : std::nullopt;
+}
+
+std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder,
+                                           const std::filesystem::path& extension) {
+    std::vector<std::filesystem::path> files;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
+        if (entry.path().extension() == extension) files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
 }
 
 std::filesystem::path withoutLinks(std::filesystem::path file) {

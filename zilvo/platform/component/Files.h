@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace zilvo::platform {
 
@@ -53,6 +54,9 @@ std::filesystem::path absolutePath(const std::filesystem::path& file);
 /// The folder that a variable of the environment names. Null when it is not set, or to no absolute path, which counts
 /// as the same.
 std::optional<std::filesystem::path> folderIn(const char* variable);
+
+/// The files of a folder whose names end in that extension ("" for none), by their names; none when it cannot be read.
+std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder, const std::filesystem::path& extension);
 
 /// The file that a link, or a chain of them, names; it may be missing. Of links in a circle, one.
 std::filesystem::path withoutLinks(std::filesystem::path file);

@@ -1,5 +1,6 @@
 #include "zilvo/platform/component/RegistrationStore.h"
 
+#include "zilvo/platform/component/Files.h"
 #include "zilvo/platform/component/RegistrationText.h"
 #include "zilvo/platform/component/SharedFile.h"
 
@@ -12,16 +13,6 @@ namespace zilvo::platform {
 namespace {
 
 constexpr const char* BelowData = "zilvo/registrations";
-
-/// By their names; one with an extension belongs to another: its lock, or what a package is about to put there.
-std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder) {
-    std::vector<std::filesystem::path> files;
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-        if (entry.path().extension().empty()) files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    return files;
-}
 
 } // namespace
 
@@ -56,7 +47,8 @@ std::vector<RegistrationStore> RegistrationStore::all() {
         if (folder.starts_with('/')) {
             const auto file = std::filesystem::path(folder) / BelowData;
             stores.emplace_back(file);
-            for (const auto& ofPackage : filesIn(file.string() + ".d"))
+            // One with an extension is another's: its lock, or what a package is about to put there.
+            for (const auto& ofPackage : filesIn(file.string() + ".d", ""))
                 stores.emplace_back(ofPackage);
         }
     return stores;
