@@ -44,7 +44,7 @@ ResultPage::ResultPage(QWidget* parent)
       seats_(new SeatCheckBoxes(QVariantMap())),
       verdict_(new QLabel),
       cards_(new QListWidget),
-      again_(new QPushButton(tr("Deal them &again"))),
+      again_(new QPushButton),
       table_(new QPushButton(tr("To the &table"))),
       summary_(new QLabel),
       results_(new QTableWidget(0, 6)) {
