@@ -73,7 +73,7 @@ QString AccessibleWidgets::Object::text(QAccessible::Text kind) const {
     case QAccessible::Name:
         return toQString(accessible::nameOf(widget_));
     case QAccessible::Description: {
-        const QString description = toQString(accessible::descriptionOf(widget_));
+        QString description = toQString(accessible::descriptionOf(widget_));
         const auto place = accessible::groupPlaceOf(widget_); // for which the toolkit has no word of its own
         if (!place) return description;
         const QString of = ControlWidget::tr("%1 of %2").arg(place->position).arg(place->size);

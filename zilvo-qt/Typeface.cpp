@@ -135,9 +135,8 @@ Typeface::Line& Typeface::line(StringView text) {
     QTextLayout layout(own, font_);
     line->ascent = layOut(layout).ascent();
     line->width = QFontMetricsF(font_).horizontalAdvance(own);
-    Line& made = *line;
     lines_.insert(own, line.release());
-    return made;
+    return *lines_.object(own);
 }
 
 const Typeface::Line::Rule& Typeface::rule(Line& line, std::size_t letter) const {

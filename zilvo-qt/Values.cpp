@@ -62,7 +62,7 @@ QFont toQFont(const StdFont& font) {
 }
 
 FontRef toFont(const QFont& font) {
-    const FontRef result = StdFont::make({});
+    FontRef result = StdFont::make({});
     result->put_Name(toString(font.family()));
     // A font that is sized in pixels has no points of its own.
     const double points =

@@ -237,9 +237,9 @@ void SpinCounter::PlaceTheLowerChild() {
     lowerChild->bringToFront();
 }
 
-/// In whole pixels.
 Single SpinCounter::halfTheInnerHeight() const {
-    return static_cast<Single>(toLong(userControl.get_ScaleHeight()) / 2);
+    const Long wholePixels = toLong(userControl.get_ScaleHeight()) / 2;
+    return static_cast<Single>(wholePixels);
 }
 
 void SpinCounter::UseTheAmbientColors() {

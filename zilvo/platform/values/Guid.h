@@ -15,6 +15,7 @@ struct Guid {
     std::uint16_t data3 = 0;
     std::array<std::uint8_t, 8> data4{};
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy takes what is compared for pointers
     friend constexpr std::strong_ordering operator<=>(const Guid&, const Guid&) noexcept = default;
 
     /// Reads "{78BA38B1-7CB9-47F3-A24F-FD60854497AE}"; the braces may be missing, the case does not matter.
