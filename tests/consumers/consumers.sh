@@ -66,6 +66,7 @@ add_subdirectory)
     configure add_subdirectory -DCMAKE_EXPORT_COMPILE_COMMANDS=ON
     ! grep -e -Werror -e -Wall add_subdirectory/compile_commands.json || fail 'our warnings are forced on it'
     ninja -C add_subdirectory -n >/dev/null
+    ninja -C add_subdirectory -n _deps/zilvo-build/zilvo/platform/zilvo/ZilvoButtons-445.Ocx >/dev/null
     ninja -C add_subdirectory "CMakeFiles/typed-host.dir$sources/demos/okcancel_host.cpp.o" >/dev/null
     ;;
 headers)
