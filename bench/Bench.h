@@ -3,8 +3,23 @@
 #include "zilvo/platform/hosting/ControlSite.h"
 
 #include <benchmark/benchmark.h>
+#include <string>
+#include <vector>
 
 namespace zilvo::bench {
+
+/// Google Benchmark, with so many repetitions unless the command line says otherwise: taken in turn, so that a drift of
+/// the machine's speed meets all benchmarks. False for an option that it does not know.
+inline bool initialize(int argc, char** argv, int repetitions) {
+    std::string options[] = {"--benchmark_repetitions=" + std::to_string(repetitions),
+                             "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.05"};
+    std::vector<char*> arguments(argv, argv + argc);
+    for (std::string& option : options)
+        arguments.insert(arguments.begin() + 1, option.data());
+    auto count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    return !benchmark::ReportUnrecognizedArguments(count, arguments.data());
+}
 
 /// The most that a benchmark should take, in calls of a bare std::function; shown beside its ratio.
 inline void limited(benchmark::State& state, double mostTimesACall) {

@@ -6,8 +6,7 @@
 #include <string>
 
 // Runs the benchmarks and states each as a ratio to a bare std::function call measured in the same run, beside the
-// most that it should take. The medians of the repetitions are compared, taken in turn so that a drift of the
-// machine's speed meets all of them.
+// most that it should take. The medians of the repetitions are compared.
 
 namespace {
 
@@ -54,15 +53,7 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    std::vector<char*> arguments(argv, argv + argc);
-    std::string repetitions = "--benchmark_repetitions=15";
-    std::string interleaved = "--benchmark_enable_random_interleaving=true";
-    std::string minimum = "--benchmark_min_time=0.05";
-    for (std::string* option : {&repetitions, &interleaved, &minimum})
-        arguments.insert(arguments.begin() + 1, option->data());
-    auto count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+    if (!zilvo::bench::initialize(argc, argv, 15)) return 1;
     zilvo::bench::registerClassBenchmarks();
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -1,3 +1,4 @@
+#include "bench/Bench.h"
 #include "bench/peers/Peers.h"
 
 #include <QApplication>
@@ -7,7 +8,7 @@
 #include <vector>
 
 // Measures each thing beside what a host author would take instead, in one run, and states ours as a share of it. The
-// medians of the repetitions are compared, taken in turn so that a drift of the machine's speed meets all of them.
+// medians of the repetitions are compared.
 
 namespace zilvo::bench {
 
@@ -66,15 +67,7 @@ void compare(const std::string& what, std::function<void(benchmark::State&)> our
 } // namespace zilvo::bench
 
 int main(int argc, char** argv) {
-    std::vector<char*> arguments(argv, argv + argc);
-    std::string repetitions = "--benchmark_repetitions=9";
-    std::string interleaved = "--benchmark_enable_random_interleaving=true";
-    std::string minimum = "--benchmark_min_time=0.05";
-    for (std::string* option : {&repetitions, &interleaved, &minimum})
-        arguments.insert(arguments.begin() + 1, option->data());
-    auto count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+    if (!zilvo::bench::initialize(argc, argv, 9)) return 1;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));
