@@ -41,7 +41,9 @@ install)
     done
     diff -r installed parts || fail 'the parts are not the whole'
     rm -r parts
-    ! grep -rIl -e "$sources" -e "$work" installed || fail 'these files say where they lie'
+    for before in '"' "'" ' ' '=' ';' ':' -I -L; do # a path of one folder, like /zilvo, may well be part of another's
+        ! grep -rIlF -e "$before$sources/" -e "$before$work/" installed || fail 'these files say where they lie'
+    done
     mv installed moved
     cd /
     env -i "$moved/bin/zilvo" list | grep -q '^ssOKCancel ' || fail 'the component is not found'
