@@ -1,3 +1,4 @@
+#include "tests/support/Outcome.h"
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/ControlHost.h"
 #include "zilvo/platform/painting/SvgPainter.h"
@@ -131,13 +132,9 @@ TEST(Lifecycle, AFailingStepKeepsWhatWasDoneAndTheOrderGoesOn) {
     ControlHost host(control);
     control->failIn = "ReadProperties";
     const MemoryPropertyBag settings;
-    try {
-        host.open(&settings);
-        FAIL();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.status(), Status::Overflow);
-        EXPECT_STREQ(failure.what(), "Logger.ReadProperties: planted");
-    }
+    const auto opened = platform::outcomeOf([&] { host.open(&settings); });
+    EXPECT_EQ(opened.status, Status::Overflow);
+    EXPECT_EQ(opened.message, "Logger.ReadProperties: planted");
     EXPECT_EQ(host.control().Load(settings), Status::UnexpectedCall) << "loading has taken place";
     control->failIn = "WriteProperties";
     MemoryPropertyBag saved;

@@ -1,6 +1,6 @@
 // Whatever a control shows, its picture is a well-formed document.
 #include "tests/fuzz/Fuzz.h"
-#include "tests/fuzz/WellFormed.h"
+#include "tests/support/WellFormed.h"
 #include "zilvo/platform/component/ControlHost.h"
 #include "zilvo/platform/painting/SvgPainter.h"
 
@@ -40,7 +40,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         while (in.ConsumeBool())
             drawLine(painter, in);
         const std::string picture = painter.document();
-        fuzz::require(fuzz::isWellFormed(picture), "a picture is well-formed:\n" + picture);
+        fuzz::require(platform::isWellFormed(picture), "a picture is well-formed:\n" + picture);
     }
     fuzz::requireNothingAlive();
     return 0;

@@ -1,3 +1,4 @@
+#include "tests/support/Outcome.h"
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/ComponentRuntime.h"
 #include "zilvo/platform/component/ControlHost.h"
@@ -19,15 +20,6 @@ std::string membersOf(const ClassDescription& description) {
         if (member.argumentCount > 0) text += "(" + toUtf8(member.argument[0].name) + ")";
     }
     return text;
-}
-
-std::string messageOf(const std::function<void()>& failing) {
-    try {
-        failing();
-        return "nothing failed";
-    } catch (const Failure& failure) {
-        return failure.what();
-    }
 }
 
 } // namespace
@@ -199,7 +191,7 @@ TEST(PlatformFacts, MessagesSayWhatFailed) {
              {[&] { (void)array.At(1); }, "there is no element 1 in an array from 2 to 2"},
              {[] { (void)BooleanArray(1, {}).UpperBound(); }, "the array has no elements"},
          })
-        EXPECT_EQ(messageOf(each.failing), each.message);
+        EXPECT_EQ(platform::outcomeOf(each.failing).message, each.message);
 }
 
 } // namespace zilvo

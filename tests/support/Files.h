@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zilvo/platform/values/Status.h"
+#include "tests/support/Outcome.h"
 
 #include <filesystem>
 #include <fstream>
@@ -20,23 +20,6 @@ inline std::string contentOf(const fs::path& file) {
 
 inline void write(const fs::path& file, const std::string& text) {
     std::ofstream(file, std::ios::binary) << text;
-}
-
-struct Outcome {
-    Status status = Status::Ok;
-    std::string message;
-
-    bool says(std::string_view part) const { return message.find(part) != std::string::npos; }
-};
-
-template <class Body>
-Outcome outcomeOf(const Body& body) {
-    try {
-        body();
-        return {};
-    } catch (const Failure& failure) {
-        return {failure.status(), failure.what()};
-    }
 }
 
 /// Runs the body in a process of its own, which ends in a signal when it fails.

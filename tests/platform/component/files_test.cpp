@@ -95,9 +95,9 @@ TEST_F(FilesTest, AFailureNamesFileAndReasonAndLeavesWhatWasThere) {
         failingCall = call;
         expect(file, " cannot be written: Input/output error");
     }
-    const rlimit small{4096, RLIM_INFINITY}; // of which a part is written
     rlimit usual{};
     getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit small{4096, usual.rlim_max}; // of which a part is written
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
     expect(file, " cannot be written: File too large");

@@ -1,3 +1,4 @@
+#include "tests/support/Outcome.h"
 #include "zilvo/library/ZilvoButtons.h"
 #include "zilvo/platform/component/Components.h"
 #include "zilvo/platform/component/ControlHost.h"
@@ -56,12 +57,7 @@ TEST(Runtime, AClassThatIsNowhereIsNotAvailableWithoutAPlaceForRegistrations) {
     for (const char* name : {"ZILVO_REGISTRATIONS", "XDG_DATA_HOME", "HOME"})
         if (const char* value = getenv(name)) before[name] = value, unsetenv(name);
     Components components;
-    try {
-        components.create(u"Nowhere");
-        ADD_FAILURE();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.status(), Status::ClassNotAvailable) << failure.what();
-    }
+    EXPECT_EQ(platform::outcomeOf([&] { components.create(u"Nowhere"); }).status, Status::ClassNotAvailable);
     for (const auto& [name, value] : before)
         setenv(name, value.c_str(), 1);
 }
@@ -92,15 +88,11 @@ TEST(Runtime, AThousandRoundsOfLoadingAndUnloadingLeaveNothingBehind) {
 }
 
 TEST(Runtime, AModuleThatIsNoComponentLacksTheEntryPoints) {
-    Dl_info platform{};
-    ASSERT_NE(dladdr(reinterpret_cast<const void*>(&parseKey), &platform), 0);
-    try {
-        const LoadedComponent component(platform.dli_fname);
-        ADD_FAILURE();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.status(), Status::BadComponent);
-        EXPECT_NE(std::string(failure.what()).find("DllGetClassObject"), std::string::npos) << failure.what();
-    }
+    Dl_info known{};
+    ASSERT_NE(dladdr(reinterpret_cast<const void*>(&parseKey), &known), 0);
+    const auto outcome = platform::outcomeOf([&] { LoadedComponent(known.dli_fname); });
+    EXPECT_EQ(outcome.status, Status::BadComponent);
+    EXPECT_TRUE(outcome.says("DllGetClassObject")) << outcome.message;
 }
 
 } // namespace zilvo

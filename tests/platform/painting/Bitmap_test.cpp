@@ -1,6 +1,6 @@
 #include "zilvo/platform/painting/Bitmap.h"
 
-#include "zilvo/platform/values/Status.h"
+#include "tests/support/Outcome.h"
 
 #include <gtest/gtest.h>
 
@@ -11,15 +11,6 @@ struct Place {
     int x;
     int y;
 };
-
-Status statusOf(const auto& call) {
-    try {
-        call();
-        return Status::Ok;
-    } catch (const Failure& failure) {
-        return failure.status();
-    }
-}
 
 TEST(Bitmap, RowsOfAnOddWidthArePaddedAndRunFromTheBottomUp) {
     Bitmap picture(3, 2, {0x11, 0x22, 0x33});
@@ -36,12 +27,13 @@ TEST(Bitmap, RowsOfAnOddWidthArePaddedAndRunFromTheBottomUp) {
 
 TEST(Bitmap, RefusesSidesAndPixelsOutOfRange) {
     for (const int side : {-1, 0, 4097}) {
-        EXPECT_EQ(statusOf([&] { Bitmap(side, 1); }), Status::InvalidPropertyValue) << side;
-        EXPECT_EQ(statusOf([&] { Bitmap(1, side); }), Status::InvalidPropertyValue) << side;
+        EXPECT_EQ(outcomeOf([&] { Bitmap(side, 1); }).status, Status::InvalidPropertyValue) << side;
+        EXPECT_EQ(outcomeOf([&] { Bitmap(1, side); }).status, Status::InvalidPropertyValue) << side;
     }
     Bitmap picture(4, 3);
     for (const Place at : {Place{4, 0}, {0, 3}, {-1, 1}, {0, -1}})
-        EXPECT_EQ(statusOf([&] { picture.set(at.x, at.y, {}); }), Status::SubscriptOutOfRange) << at.x << ' ' << at.y;
+        EXPECT_EQ(outcomeOf([&] { picture.set(at.x, at.y, {}); }).status, Status::SubscriptOutOfRange)
+            << at.x << ' ' << at.y;
     EXPECT_EQ(picture.at(3, 2), Bitmap::Pixel{});
 }
 

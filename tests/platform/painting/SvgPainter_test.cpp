@@ -1,5 +1,7 @@
 #include "zilvo/platform/painting/SvgPainter.h"
 
+#include "tests/support/WellFormed.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -14,48 +16,17 @@ namespace {
 constexpr FontLook Plain{u"Arial", 8.25F, 400, false, false, false};
 using colours::Black;
 
-/// Empty when the document is well-formed, else where it is not.
-std::string faultIn(const std::string& document) {
-    static const std::regex token(R"re(<(/?)([a-z]+)((?: [a-zA-Z:-]+="[^"<]*")*)(/?)>|[^<]+)re");
-    static const std::regex bare("&(?!amp;|lt;|gt;|quot;)");
-    std::vector<std::string> open;
-    std::string::const_iterator at = document.begin();
-    for (std::smatch match; at != document.end(); at = match[0].second) {
-        if (!std::regex_search(at, document.end(), match, token, std::regex_constants::match_continuous))
-            return std::string(at, document.end());
-        const std::string part = match.str();
-        if (std::regex_search(part, bare)) return part;
-        for (const char unit : part)
-            if (static_cast<unsigned char>(unit) < 0x20 && unit != '\n') return part;
-        if (!match[2].matched || match.length(4) != 0) continue;
-        if (match.length(1) == 0) {
-            open.push_back(match[2]);
-        } else {
-            if (open.empty() || open.back() != match[2]) return part;
-            open.pop_back();
-        }
-    }
-    return open.empty() ? std::string() : "not closed: " + open.back();
-}
-
-std::size_t countOf(const std::string& text, std::string_view part) {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
-        ++count;
-    return count;
-}
-
 TEST(SvgPainter, AreasNestAndClose) {
     SvgPainter painter(1500, 750);
     painter.leave(); // one too many closes nothing
     {
         const PaintedArea outer(painter, {15, 30, 300, -15});
         const PaintedArea inner(painter, {7.5F, -30, 150, 150});
-        EXPECT_EQ(faultIn(painter.document()), "");
+        EXPECT_TRUE(isWellFormed(painter.document()));
     }
     painter.rectangle({0, 0, 15, 15}, {.fill = Black, .stroke = {}}, 0);
     const std::string document = painter.document();
-    EXPECT_EQ(faultIn(document), "");
+    EXPECT_TRUE(isWellFormed(document));
     EXPECT_NE(document.find(R"(width="100" height="50" viewBox="0 0 100 50")"), std::string::npos);
     EXPECT_NE(
         document.find(
@@ -73,7 +44,7 @@ TEST(SvgPainter, HostileTextStaysWellFormed) {
     font.name = every;
     painter.text({.text = every, .origin = {}, .width = 900, .font = font, .colour = {}, .underlined = 3});
     const std::string document = painter.document();
-    EXPECT_EQ(faultIn(document), "");
+    EXPECT_TRUE(isWellFormed(document));
     EXPECT_NE(document.find("]]&gt;&amp;amp;&lt;!--\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD<"),
               std::string::npos);
     EXPECT_NE(document.find(R"(\')"), std::string::npos);
@@ -113,7 +84,7 @@ TEST(SvgPainter, LinesAndFramesCoverWholePixels) {
     painter.rectangle({0, 0, 150, 75}, {.fill = {}, .stroke = Black}, 0);
     painter.rectangle({0, 0, 150, 15}, {.fill = {}, .stroke = Black}, 0);
     const std::string document = painter.document();
-    EXPECT_EQ(faultIn(document), "");
+    EXPECT_TRUE(isWellFormed(document));
     for (const char* place :
          {R"(x="0" y="2" width="10" height="1" fill)", R"(x="2" y="1" width="2" height="2" fill)",
           R"(x="0.5" y="0.5" width="9" height="4" fill="none")", R"(x="0" y="0" width="10" height="1" fill="#000000")"})
@@ -170,13 +141,13 @@ TEST(SvgPainter, RunsOfABitmapCoverEachPixelOnceInItsColour) {
     SvgPainter painter(1500, 750);
     painter.bitmap(picture, {0, 0, 150, 150});
     const std::string document = painter.document();
-    EXPECT_EQ(faultIn(document), "");
-    EXPECT_EQ(countOf(document, "<path"), 3U);
+    EXPECT_TRUE(isWellFormed(document));
 
     std::map<std::pair<int, int>, std::string> covered;
     const std::regex path(R"re(<path fill="(#[0-9a-f]{6})" d="([^"]*)")re");
     const std::regex run("M([0-9]+) ([0-9]+)h([0-9]+)v1h-([0-9]+)z");
-    for (std::sregex_iterator it(document.begin(), document.end(), path), end; it != end; ++it) {
+    int paths = 0;
+    for (std::sregex_iterator it(document.begin(), document.end(), path), end; it != end; ++it, ++paths) {
         const std::string runs = (*it)[2];
         for (std::sregex_iterator part(runs.begin(), runs.end(), run); part != end; ++part) {
             EXPECT_EQ((*part)[3], (*part)[4]);
@@ -184,6 +155,7 @@ TEST(SvgPainter, RunsOfABitmapCoverEachPixelOnceInItsColour) {
                 EXPECT_TRUE(covered.try_emplace({std::stoi((*part)[1]) + i, std::stoi((*part)[2])}, (*it)[1]).second);
         }
     }
+    EXPECT_EQ(paths, 3) << "one for each colour";
     EXPECT_EQ(covered.size(), 20U);
     EXPECT_EQ((covered[{2, 2}]), "#ff0001");
     EXPECT_EQ((covered[{3, 0}]), "#ff0000");

@@ -1,6 +1,6 @@
+#include "tests/support/Outcome.h"
 #include "zilvo/platform/values/Conversions.h"
 #include "zilvo/platform/values/Guid.h"
-#include "zilvo/platform/values/Status.h"
 #include "zilvo/platform/values/StdFont.h"
 #include "zilvo/platform/values/Text.h"
 
@@ -11,15 +11,9 @@ namespace zilvo::platform {
 
 namespace {
 
-/// The status that a conversion ends with; Ok when it succeeds.
 template <class T>
 Status statusOf(const Variant& value) {
-    try {
-        convert<T>(value);
-        return Status::Ok;
-    } catch (const Failure& failure) {
-        return failure.status();
-    }
+    return outcomeOf([&] { convert<T>(value); }).status;
 }
 
 const FontRef& someFont() {
@@ -80,12 +74,8 @@ TEST(Conversions, TextOfEachKind) {
 }
 
 TEST(Conversions, MessagesNameTheValueItsKindAndWhatItWasFor) {
-    try {
-        toInteger(Variant(u"ten"), u"CounterValue");
-        FAIL();
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(), "CounterValue: \"ten\" (String) does not convert to Integer");
-    }
+    EXPECT_EQ(outcomeOf([] { toInteger(Variant(u"ten"), u"CounterValue"); }).message,
+              "CounterValue: \"ten\" (String) does not convert to Integer");
 }
 
 TEST(Variants, AReferenceReadsAndWritesItsVariable) {
@@ -172,15 +162,10 @@ TEST(Fonts, MembersByNameAndTheirLimits) {
     font->put_Weight(900);
     font->put_Bold(true);
     EXPECT_EQ(font->get_Weight(), 900) << "a heavy font is bold already";
-    for (const auto& [name, value] :
-         {std::pair<StringView, Variant>{u"Size", 0.0F}, {u"Size", -1.0F}, {u"Weight", Integer{0}}, {u"Name", u""}}) {
-        try {
-            putMember(*font, name, value);
-            ADD_FAILURE() << toUtf8(name);
-        } catch (const Failure& failure) {
-            EXPECT_EQ(failure.status(), Status::InvalidPropertyValue);
-        }
-    }
+    for (const auto& refused :
+         {std::pair<StringView, Variant>{u"Size", 0.0F}, {u"Size", -1.0F}, {u"Weight", Integer{0}}, {u"Name", u""}})
+        EXPECT_EQ(outcomeOf([&] { putMember(*font, refused.first, refused.second); }).status,
+                  Status::InvalidPropertyValue);
     EXPECT_THROW(getMember(*font, u"Colour"), Failure);
 }
 

@@ -36,9 +36,6 @@ public:
     Surface& surface() const { return host_->control().surface(); }
     /// Since the last call.
     Heard heard() const { return std::exchange(*heard_, {}); }
-    /// Ends the host, as one of its own handlers may.
-    void destroy() { host_.reset(); }
-    bool isDestroyed() const { return !host_; }
 
     Widget& operator[](StringView path) const {
         const Surface* on = &surface();
