@@ -307,8 +307,8 @@ def main():
     if given.list:
         print(*faults, sep="\n")
         return 0
-    # A fault may take all memory or fill the disk, and the crashes leave nothing behind.
-    for what, most in (resource.RLIMIT_AS, 4 << 30), (resource.RLIMIT_FSIZE, 1 << 30), (resource.RLIMIT_CORE, 0):
+    # A fault may take all memory or fill the disk, and the crashes leave nothing behind. A test makes a file of 2 GiB.
+    for what, most in (resource.RLIMIT_AS, 4 << 30), (resource.RLIMIT_FSIZE, 3 << 30), (resource.RLIMIT_CORE, 0):
         resource.setrlimit(what, (most, most))
     signal.signal(signal.SIGTERM, signal.default_int_handler)
     WORK.mkdir(parents=True, exist_ok=True)
