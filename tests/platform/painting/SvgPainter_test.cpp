@@ -83,11 +83,13 @@ TEST(SvgPainter, LinesAndFramesCoverWholePixels) {
     painter.line({30, 15}, {30, 45}, Black, 30);
     painter.rectangle({0, 0, 150, 75}, {.fill = {}, .stroke = Black}, 0);
     painter.rectangle({0, 0, 150, 15}, {.fill = {}, .stroke = Black}, 0);
+    painter.rectangle({0, 0, 0.75F, 0.75F}, {.fill = Black, .stroke = {}}, 0); // less than a pixel is not nothing
     const std::string document = painter.document();
     EXPECT_TRUE(isWellFormed(document));
     for (const char* place :
          {R"(x="0" y="2" width="10" height="1" fill)", R"(x="2" y="1" width="2" height="2" fill)",
-          R"(x="0.5" y="0.5" width="9" height="4" fill="none")", R"(x="0" y="0" width="10" height="1" fill="#000000")"})
+          R"(x="0.5" y="0.5" width="9" height="4" fill="none")", R"(x="0" y="0" width="10" height="1" fill="#000000")",
+          R"(width="0.05" height="0.05" fill)"})
         EXPECT_NE(document.find(place), std::string::npos) << place;
 }
 
