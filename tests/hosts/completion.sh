@@ -16,12 +16,12 @@ failures=0
 
 # offers EXPECTED TYPED: with the cursor at the end of what was typed.
 offers() {
-    local expected=$1 function=_zilvo
+    local expected=$1
     read -ra COMP_WORDS <<<"$2"
     [[ $2 != *' ' ]] || COMP_WORDS+=('')
     COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
     COMPREPLY=()
-    "$function" "${COMP_WORDS[0]}" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+    _zilvo "${COMP_WORDS[0]}" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
     [ "$(printf '%s\n' "${COMPREPLY[@]}" | sort -u | paste -sd ,)" = "$expected" ] && return
     printf '%s: offers %s\n' "$2" "${COMPREPLY[*]}" >&2
     failures=$((failures + 1))

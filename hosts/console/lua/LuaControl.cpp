@@ -224,13 +224,16 @@ const MemberDescription& memberAt(lua_State* L, int index, const Object& object)
     throw Failure(Status::UnknownMember, owner + " has no member named " + toUtf8(name));
 }
 
+/// Pushes what the field whose name is at `nameIndex` gives; false when there is none.
+bool pushField(lua_State* L, int controlIndex, int nameIndex) {
+    if (!pushNamed(L, fields, nameIndex)) return false;
+    lua_pushvalue(L, controlIndex);
+    lua_call(L, 1, 1);
+    return true;
+}
+
 int get(lua_State* L) {
-    if (pushNamed(L, methods, 2)) return 1;
-    if (pushNamed(L, fields, 2)) {
-        lua_pushvalue(L, 1);
-        lua_call(L, 1, 1);
-        return 1;
-    }
+    if (pushNamed(L, methods, 2) || pushField(L, 1, 2)) return 1;
     Object& object = *objectAt(L, 1).object;
     const MemberDescription& member = memberAt(L, 2, object);
     if (member.kind == MemberKind::Method) {
@@ -361,15 +364,10 @@ void defineControls(lua_State* L) {
 }
 
 void pushControlField(lua_State* L, int index, std::string_view name) {
+    lua_pushlstring(L, name.data(), name.size());
     const auto* control = findUserdata<LuaControl>(L, index);
-    if (control && control->host)
-        for (const luaL_Reg& field : fields)
-            if (field.name == name) {
-                lua_pushcfunction(L, field.func);
-                lua_pushvalue(L, index);
-                return lua_call(L, 1, 1);
-            }
-    lua_pushnil(L);
+    if (!control || !control->host || !pushField(L, index, lua_gettop(L))) lua_pushnil(L);
+    lua_remove(L, -2);
 }
 
 void addControlNames(lua_State* L, int index, MemberNames& names) {
